@@ -1,0 +1,106 @@
+#pragma once
+
+#include "session/data_store.h"
+#include "session/settings.h"
+#include "widgets/desk.h"
+#include "widgets/screens.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace levora::document {
+class Report;
+}
+
+namespace levora::session {
+
+// Where things lie and who answers, for one start.
+struct Surroundings {
+    widgets::Desk& desk;
+    Settings& settings;
+    std::string program_folder; // without a trailing separator
+    std::string command_line;
+    std::string computer_name; // as the machine has it
+};
+
+// All that one start of the program shares between its screens: the session's variables under their
+// own names, the screens, the desk. A second start sees nothing of the first.
+class Session {
+public:
+    explicit Session(Surroundings surroundings);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    widgets::Desk& desk;
+    Settings& settings;
+    const std::string program_folder;
+    const std::string command_line;
+    const std::string machine_name;
+
+    std::string SqlText;
+    std::string CurrentFY;   // "2014-2015": the assessment year, the value of every FY column
+    std::string AYStartYear; // its first four characters
+    std::int32_t AssesseeNo = 0;
+    std::string DataFolder; // with a trailing separator
+    std::string TaxConnectString, AssesseeConnectString, ITConnectString, FormsConnectString;
+    Connection TaxDb, AssesseeDb, ITDb, FormsDb;
+    std::string ComputerName; // only on a network installation
+    bool IsServerInstall = false;
+    bool IsClientInstall = false;
+    bool IsNetworkInstall = false;
+    bool IsCompanyAssessee = false;
+    bool UseResidentialAddress = false;
+    bool BusinessAssetFlag = false;
+    bool DeemedAssetFlag = false;
+    std::string AssetRowName;
+    std::int16_t OriFillMonthsLate = 0;
+    float OriFillInterestRate = 0;
+    // Shared by the procedure that fills a report and the preview that shows it.
+    std::shared_ptr<document::Report> ChallanReport, FormBBReport, WealthReport;
+    std::int16_t SheetRowCount = 0;
+    std::string SheetGridName;
+    std::uint8_t PrintSource = 0;
+    std::uint8_t PreviewSource = 0;
+    std::int16_t XmlIndent = 0;
+    std::vector<std::string> XmlTagStack;
+    std::int32_t XmlTagTop = 0;
+
+    // 1 business asset, 2 deemed asset, 0 main schedule, from the two flags.
+    [[nodiscard]] int asset_type() const;
+    // " AssesseeNo = 17 And FY = '2014-2015'" in the wording of most statements.
+    [[nodiscard]] std::string assessee_text() const; // the number as statement text
+
+    // A variable by its name, for scripts: a text, number or truth; nothing for an object (null when
+    // the name is unknown: found is false).
+    struct Variable {
+        bool found = false;
+        std::variant<std::monostate, std::string, double, bool> value;
+    };
+    [[nodiscard]] Variable variable(std::string_view name) const;
+
+    // Brings pending rows of all stores down. Ends a transaction before a box waits for a person, and
+    // each outermost event.
+    void commit_all();
+
+    // Last: its screens refer to all of the above and go first.
+    widgets::Screens screens;
+};
+
+// A screen of this program: a form with the session behind it.
+class Screen : public widgets::Form {
+public:
+    Screen(Session& session, std::string name, std::string caption);
+
+protected:
+    Session& session_;
+};
+
+} // namespace levora::session
