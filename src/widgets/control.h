@@ -21,8 +21,20 @@ enum class Aspect {
 };
 
 enum class ControlKind {
-    text_field, masked_field, list_field, column_list, tick_box, option, button, menu, menu_item,
-    label, frame, tabs, timer, grid,
+    text_field,
+    masked_field,
+    list_field,
+    column_list,
+    tick_box,
+    option,
+    button,
+    menu,
+    menu_item,
+    label,
+    frame,
+    tabs,
+    timer,
+    grid,
 };
 
 // A colour as 0xRRGGBB; none is the default of the palette.

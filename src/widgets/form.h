@@ -81,6 +81,8 @@ public:
     // inside has answered passes to the event that is running, if there is one; from the outermost
     // one it goes to Screens::on_unanswered under "<form> - <event>".
     void run_event(std::string_view event, const std::function<void()>& handler) const;
+    void run_event(std::string_view control, std::string_view event,
+                   const std::function<void()>& handler) const;
 
     View* view = nullptr; // set by the window that draws this form
 

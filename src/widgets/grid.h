@@ -5,7 +5,6 @@
 #include "widgets/value_text.h"
 
 #include <cstdint>
-#include <deque>
 #include <functional>
 #include <limits>
 #include <memory>
@@ -25,18 +24,18 @@ std::string_view name_of(CellKind kind); // "text", "number", ... as scripts see
 // How a cell is designed: its kind and what that kind accepts. Shared by all cells made from it.
 struct CellDesign {
     CellKind kind = CellKind::text;
-    int max_chars = 0;                                       // text: 0 is no limit
-    double min = std::numeric_limits<double>::lowest();      // number; percent as a fraction
-    double max = std::numeric_limits<double>::max();         //
-    int decimals = 0;                                        // number; percent of the shown figure
-    bool grouped = false;                                    // number: shown with Indian grouping
-    std::string mask;                                        // "9" digit, "U" capital letter
-    Date first = {1, 1, 1};                                  // date: the range that typing accepts
-    Date last = {9999, 12, 31};                              //
-    std::vector<std::string> items;                          // combo
-    int default_index = -1;                                  // combo: selected while it holds no data
-    bool editable = false;                                   // combo: may be typed in
-    std::string caption;                                     // button
+    int max_chars = 0;                                  // text: 0 is no limit
+    double min = std::numeric_limits<double>::lowest(); // number; percent as a fraction
+    double max = std::numeric_limits<double>::max();    //
+    int decimals = 0;               // number, percent of the shown figure; -1 rounds nothing
+    bool grouped = false;           // number: shown with Indian grouping
+    std::string mask;               // "9" digit, "U" capital letter
+    Date first = {1, 1, 1};         // date: the range that typing accepts
+    Date last = {9999, 12, 31};     //
+    std::vector<std::string> items; // combo
+    int default_index = -1;         // combo: selected while it holds no data
+    bool editable = false;          // combo: may be typed in
+    std::string caption;            // button
 };
 
 CellDesign text_cell(int max_chars = 0);
@@ -55,12 +54,14 @@ struct CellRange {
     int last_column;
     int last_row;
 };
-constexpr CellRange cell_at(int column, int row) { return {column, row, column, row}; }
+constexpr CellRange cell_at(int column, int row) {
+    return {column, row, column, row};
+}
 
 // Computes a formula cell from the sums of its inputs, in the order in which they were named.
 using FormulaFunction = double (*)(std::span<const double> inputs);
-double sum_formula(std::span<const double> inputs);        // a + b + ...
-double difference_formula(std::span<const double> inputs); // a - b
+double sum_formula(std::span<const double> inputs);                // a + b + ...
+double difference_formula(std::span<const double> inputs);         // a - b
 double floored_difference_formula(std::span<const double> inputs); // a - b, 0 when below 0
 
 // A table of cells, columns and rows from 1; column 0 and row 0 are the headers. Every function takes
@@ -79,8 +80,8 @@ public:
     ~Grid() override;
 
     // --- counts ---
-    [[nodiscard]] int columns() const { return static_cast<int>(columns_.size()); }
-    [[nodiscard]] int rows() const { return static_cast<int>(rows_.size()); }
+    [[nodiscard]] int columns() const;
+    [[nodiscard]] int rows() const;
     // New columns and rows at the end take the column's design (see design_column) or, in a grid of
     // items by column, that of the last column.
     void set_rows(int rows);
@@ -209,19 +210,28 @@ public:
 
 private:
     struct Cell;
-    struct Column;
     struct Row;
-    struct RowFormula;
-    struct CellFormula;
-
-    Cell& at(int column, int row);
-    [[nodiscard]] const Cell& at(int column, int row) const;
-
-    std::vector<Column> columns_;
-    std::vector<Row> rows_;
-    // ... storage of cells, designs and formulas: see grid.cpp
     struct Storage;
-    std::unique_ptr<Storage> storage_;
+
+    [[nodiscard]] Cell& at(int column, int row);
+    [[nodiscard]] const Cell& at(int column, int row) const;
+    // Puts a text into a cell as its kind holds it; tells whether anything became different.
+    bool hold(int column, int row, std::string_view text);
+    bool hold_number(int column, int row, double number);
+    void mark_data(int column, int row, bool data);
+    void written(int column, int row);
+    void recompute_from(int column, int row);
+    void recompute_row(int row);
+    void recompute_all();
+    void put_formula_result(int column, int row, double result);
+    void empty_cell(int column, int row);
+    [[nodiscard]] bool can_edit(int column, int row) const;
+    void edited(int column, int row);
+    void move_active(int columns, int rows);
+    void next_cell();
+    void previous_cell();
+
+    std::unique_ptr<Storage> storage_; // cells, designs and formulas: see grid_storage.h
     int active_column_ = 1;
     int active_row_ = 1;
     bool edit_mode_ = false;
