@@ -118,7 +118,7 @@ private:
 // The four stores of a data folder, by the base names of their files.
 enum class Store { tax, assessee, income_tax, forms };
 constexpr Store all_stores[] = {Store::tax, Store::assessee, Store::income_tax, Store::forms};
-std::string_view base_name(Store store);                        // "LVWTax", ...
+std::string_view base_name(Store store); // "LVWTax", ...
 std::optional<Store> store_of(std::string_view base_name);
 std::string store_path(const std::string& folder, Store store); // FOLDER/LVWTax.db
 

@@ -37,10 +37,7 @@ public:
     // for a name that no screen has.
     Form& load(std::string_view name);
     // The same as its own class.
-    template <class T>
-    T& get(std::string_view name) {
-        return static_cast<T&>(load(name));
-    }
+    template <class T> T& get(std::string_view name) { return static_cast<T&>(load(name)); }
 
     // Loads if need be and shows. Nothing waits for a modal screen to close: the call returns.
     Form& show(std::string_view name, Showing showing = Showing::modeless);
