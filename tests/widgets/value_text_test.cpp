@@ -1,0 +1,122 @@
+#include "widgets/failure.h"
+#include "widgets/value_text.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using namespace levora;
+
+namespace {
+
+TEST(ValueTextTest, ValReadsTheLeadingNumber) {
+    struct Case {
+        const char* why;
+        const char* text;
+        double value;
+    };
+    constexpr Case cases[] = {
+        {"nothing", "", 0},
+        {"a caption", "Details", 0},
+        {"blanks are skipped, inside too", " 12 3", 123},
+        {"a comma ends it", "1,00,000", 1},
+        {"a second point ends it", "1.2.3", 1.2},
+        {"signs", "-4.5", -4.5},
+        {"plus", "+7", 7},
+        {"a sign in the middle ends it", "1-2", 1},
+        {"a sign alone", "-", 0},
+        {"a point first", ".5x", 0.5},
+        {"a point last", "5.", 5},
+        {"a point alone", ".", 0},
+        {"exponent", "1.5e3", 1500},
+        {"negative exponent with a blank", "5e -1", 0.5},
+        {"an exponent without digits ends it", "2e", 2},
+        {"what follows is left", "12 Rs", 12},
+        {"a percentage", "20%", 20},
+        {"too small for a double", "1e-400", 0},
+    };
+    for (const Case& each : cases)
+        EXPECT_EQ(val(each.text), each.value) << each.why;
+    EXPECT_THROW(val("1e400"), Failure);
+}
+
+TEST(ValueTextTest, StrictConversionTakesTheWholeTextOrNothing) {
+    EXPECT_EQ(strict_number(" 1234.50 "), 1234.5);
+    EXPECT_EQ(strict_number("12,34,567"), 1234567);
+    EXPECT_EQ(strict_number("1e3"), 1000);
+    for (const char* text : {"", "abc", "12a", "1,", ",1", "1..2", "-", "1 2", "--1", "1e"})
+        EXPECT_FALSE(strict_number(text)) << text;
+    try {
+        to_double("12a");
+        FAIL() << "a text that is no number was converted";
+    } catch (const Failure& failure) {
+        EXPECT_EQ(failure.number, error_number::type_mismatch);
+    }
+}
+
+TEST(ValueTextTest, NumbersAreWrittenShortestWithoutExponent) {
+    struct Case {
+        double value;
+        const char* text;
+    };
+    constexpr Case cases[] = {
+        {0.0, "0"},
+        {-0.0, "0"},
+        {0.5, "0.5"},
+        {-0.5, "-0.5"},
+        {1234.5, "1234.5"},
+        {0.1 + 0.2, "0.3"},
+        {4412348.75, "4412348.75"},
+        {1e15, "1000000000000000"},
+        {1e21, "1000000000000000000000"},
+        {0.00001, "0.00001"},
+        {123456789012345678.0, "123456789012346000"},
+        {999999999999999.9, "1000000000000000"},
+        {1.0 / 3, "0.333333333333333"},
+        {-2.0 / 3, "-0.666666666666667"},
+    };
+    for (const Case& each : cases)
+        EXPECT_EQ(number_text(each.value), each.text);
+    EXPECT_THROW(number_text(std::numeric_limits<double>::infinity()), Failure);
+}
+
+TEST(ValueTextTest, RoundsByTheNamedRule) {
+    EXPECT_EQ(round_half_even(0.5), 0);
+    EXPECT_EQ(round_half_even(1.5), 2);
+    EXPECT_EQ(round_half_even(2.5), 2);
+    EXPECT_EQ(round_half_even(-2.5), -2);
+    EXPECT_EQ(round_half_away(0.5, 0), 1);
+    EXPECT_EQ(round_half_away(-2.5, 0), -3);
+    EXPECT_EQ(number_text(round_half_away(1.005, 2)), "1.01"); // as its text reads, not as it is held
+    EXPECT_EQ(number_text(round_half_away(-9.995, 2)), "-10");
+    EXPECT_EQ(number_text(round_half_away(12.34, 2)), "12.34");
+}
+
+TEST(ValueTextTest, WholeNumbersOverflowInsteadOfWrapping) {
+    EXPECT_EQ(to_long(2147483647.4), 2147483647);
+    EXPECT_EQ(to_long("12,34,567"), 1234567);
+    EXPECT_EQ(to_integer(32767.4), 32767);
+    EXPECT_EQ(to_integer("2.5"), 2);
+    for (const auto overflows : {+[] { (void)to_long(2147483647.5); }, +[] { (void)to_integer(32767.5); },
+                                 +[] { (void)to_long("1e300"); }}) {
+        try {
+            overflows();
+            FAIL() << "no overflow";
+        } catch (const Failure& failure) {
+            EXPECT_EQ(failure.number, error_number::overflow);
+        }
+    }
+}
+
+TEST(ValueTextTest, GroupsByLakhAndCrore) {
+    EXPECT_EQ(group_indian(0), "0");
+    EXPECT_EQ(group_indian(999), "999");
+    EXPECT_EQ(group_indian(1000), "1,000");
+    EXPECT_EQ(group_indian(123456789), "12,34,56,789");
+    EXPECT_EQ(group_indian(-100000), "-1,00,000");
+    EXPECT_EQ(group_indian(4412348.75, 2), "44,12,348.75");
+    EXPECT_EQ(group_indian(1.5, 2), "1.50");
+    EXPECT_EQ(group_indian_text("100000.25"), "1,00,000.25");
+}
+
+} // namespace
