@@ -1,0 +1,13 @@
+#include "schedules/asset_schedule.h"
+
+namespace levora::schedules {
+
+std::string year_key(const session::Session& session) {
+    return "AssesseeNo = " + session.assessee_text() + " And FY = '" + session.CurrentFY + "'";
+}
+
+std::string asset_key(const session::Session& session) {
+    return year_key(session) + " And AssetType = " + std::to_string(session.asset_type());
+}
+
+} // namespace levora::schedules

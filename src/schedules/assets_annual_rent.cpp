@@ -1,0 +1,208 @@
+#include "schedules/assets_annual_rent.h"
+
+#include "schedules/asset_schedule.h"
+#include "schedules/assets_immovable.h"
+#include "schedules/grid_keys.h"
+#include "schedules/property_grid.h"
+#include "schedules/running_total.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace levora::schedules {
+
+using session::Attempt;
+using session::procedure;
+using session::RowSet;
+using session::RowSetUse;
+
+namespace {
+
+struct RentRow {
+    enum : int { rent = 1, taxes, repairs, deposit, months, interest, premium, benefit };
+};
+constexpr int rent_rows = 8;
+
+struct RentItem {
+    std::string_view label;
+    std::string_view stored_as; // empty: not stored as an amount
+    std::string_view note;
+};
+// clang-format off
+constexpr std::array<RentItem, rent_rows> rent_items{{
+    {"Annual Rent Recierved or Recievable", "RecievableRent", ""},
+    {"Amount of Taxes borne by  the tenant if any", "TaxesBorneByTenant", ""},
+    {"Repairs borne by the tenant", "",
+     "Where repairs are borne by the tenant, 1/9th of the actual rent shall be added."},
+    {"Deposit accepted if any", "DepositAccepted",
+     "Where any deposit is accepted (not being advance payment towords rent for a period of 3 months or "
+     "less), actual rent shall be increase 15%  p.a. of deposit outstanding for the number of months"},
+    {"Deposit held for number of months", "", ""},
+    {"Amount @ 15% p.a. of deposit", "", ""},
+    {"Premium recieved in case of Lease of Property  ", "RecievedAMTforLeaseProperty", ""},
+    {"Any benefit or perquisite derives from tenant to owner  ", "BenefitFromTenantToOwner",
+     "if any benefit or perquisite derived as consideration"},
+}};
+// clang-format on
+
+constexpr unsigned white_rgb = 0xFFFFFF;
+constexpr int label_column = 1;
+constexpr int amount_column = 2;
+constexpr int two_months = 1; // position in the list
+
+// Rule 5 of Schedule III: what repairs borne by the tenant and a deposit add to the rent.
+constexpr double repairs_divisor = 9;
+constexpr double deposit_rate = 0.15;
+constexpr double months_of_year = 12;
+
+std::vector<std::string> month_counts() {
+    std::vector<std::string> counts;
+    for (int months = 1; months <= 12; ++months)
+        counts.push_back(number_text(months));
+    return counts;
+}
+
+std::string rent_key(const session::Session& session, int property_no) {
+    return asset_key(session) + " And PropertyNo = " + std::to_string(property_no);
+}
+
+} // namespace
+
+AnnualRentPanel::AnnualRentPanel(widgets::Form& form, session::Session& session, ImmovableSchedule& immovable)
+    : frAnnualRent(form, "frAnnualRent", "Computation of Annual Rent"),
+      sprAnnualRent(form, "sprAnnualRent", 2, rent_rows), txtTotalAnnualRent(form, "txtTotalAnnualRent"),
+      cmdOKAnnualRent(form, "cmdOKAnnualRent", "&Ok"),
+      cmdCancelAnnualRent(form, "cmdCancelAnnualRent", "Ca&ncel"), session_(session), immovable_(immovable) {
+    frAnnualRent.set_visible(false);
+    txtTotalAnnualRent.set_locked(true);
+    design_grid();
+    connect();
+}
+
+void AnnualRentPanel::design_grid() {
+    sprAnnualRent.set_header(label_column, "Details of Annual Rent");
+    sprAnnualRent.set_header(amount_column, "Amount");
+    sprAnnualRent.set_column_locked(label_column, true);
+    sprAnnualRent.set_column_backcolor(label_column, widgets::grey_rgb);
+    sprAnnualRent.design_column(amount_column, widgets::number_cell(-99999999, 9999999999, 0, true));
+    for (int row = 1; row <= rent_rows; ++row) {
+        const RentItem& item = rent_items[static_cast<std::size_t>(row - 1)];
+        if (row != RentRow::repairs) sprAnnualRent.set_label(label_column, row, std::string(item.label));
+        if (!item.note.empty()) sprAnnualRent.set_note(label_column, row, std::string(item.note));
+    }
+    sprAnnualRent.design_cell(label_column, RentRow::repairs,
+                              widgets::check_cell(std::string(rent_items[RentRow::repairs - 1].label)));
+    sprAnnualRent.set_cell_locked(label_column, RentRow::repairs, false);
+    sprAnnualRent.set_cell_backcolor(label_column, RentRow::repairs, white_rgb);
+    sprAnnualRent.design_cell(amount_column, RentRow::months,
+                              widgets::combo_cell(month_counts(), two_months));
+    sprAnnualRent.set_cell_locked(amount_column, RentRow::interest, true);
+    sprAnnualRent.set_cell_backcolor(amount_column, RentRow::interest, widgets::grey_rgb);
+}
+
+void AnnualRentPanel::connect() {
+    sprAnnualRent.on_change = [this](int column, int row) { sprAnnualRent_Change(column, row); };
+    sprAnnualRent.on_button_click = [this](int column, int row) {
+        if (column == label_column && row == RentRow::repairs)
+            sprAnnualRent_Change(amount_column, RentRow::repairs);
+    };
+    sprAnnualRent.on_key_down = [this](std::string_view key) {
+        return clear_or_insert_key(sprAnnualRent, key);
+    };
+    cmdOKAnnualRent.on_click = [this] { cmdOKAnnualRent_Click(); };
+    cmdCancelAnnualRent.on_click = [this] { frAnnualRent.set_visible(false); };
+}
+
+void AnnualRentPanel::open() {
+    frAnnualRent.set_visible(true);
+    frAnnualRent.bring_to_front();
+    LoadAnnualRent();
+}
+
+void AnnualRentPanel::sprAnnualRent_Change(int, int row) {
+    if (row == RentRow::rent || row == RentRow::repairs) compute_repairs();
+    if (row == RentRow::deposit || row == RentRow::months) compute_deposit();
+    compute_total();
+}
+
+void AnnualRentPanel::compute_repairs() {
+    const double rent = round_half_even(sprAnnualRent.value(amount_column, RentRow::rent));
+    const bool borne_by_tenant = sprAnnualRent.text(label_column, RentRow::repairs) == "1";
+    sprAnnualRent.set_value(amount_column, RentRow::repairs,
+                            borne_by_tenant ? round_half_even(rent / repairs_divisor) : 0);
+}
+
+void AnnualRentPanel::compute_deposit() {
+    const double deposit = round_half_even(sprAnnualRent.value(amount_column, RentRow::deposit));
+    const double months = round_half_even(sprAnnualRent.value(amount_column, RentRow::months));
+    sprAnnualRent.set_value(amount_column, RentRow::interest,
+                            months > 0 ? round_half_even(deposit * deposit_rate / months_of_year * months)
+                                       : 0);
+}
+
+void AnnualRentPanel::compute_total() {
+    RunningTotal total;
+    const int last = sprAnnualRent.data_rows();
+    for (int row = 1; row <= last; ++row) {
+        // Wanted: deposit and months are left out by their row numbers, so that a row inserted above
+        // them shifts what is left out.
+        if (row != RentRow::deposit && row != RentRow::months)
+            total.add(sprAnnualRent.value(amount_column, row));
+    }
+    txtTotalAnnualRent.set_text(total.text());
+}
+
+void AnnualRentPanel::cmdOKAnnualRent_Click() {
+    SaveAnnualRent();
+    frAnnualRent.set_visible(false);
+    const int column = immovable_.sprImmovable.active_column();
+    immovable_.sprImmovable.set_text(column, PropertyRow::annual_rent, txtTotalAnnualRent.text());
+    immovable_.sprImmovable_Change(column, PropertyRow::survey);
+}
+
+void AnnualRentPanel::LoadAnnualRent() {
+    procedure(session_, "frmImmovable - LoadAnnualRent", [this](const Attempt& attempt) {
+        const int property_no = immovable_.sprImmovable.active_column() - 1;
+        session_.SqlText = "Select * From [Annual Rent] Where " + rent_key(session_, property_no);
+        const RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
+        // Wanted: the grid is not cleared. A property without a row takes the figures of the property
+        // shown last; clearing would lose the figures that a person copies from one to the next.
+        if (!rows.eof()) {
+            for (int row = 1; row <= rent_rows; ++row) {
+                const RentItem& item = rent_items[static_cast<std::size_t>(row - 1)];
+                if (!item.stored_as.empty())
+                    sprAnnualRent.set_value(amount_column, row, rows[item.stored_as].number());
+            }
+            const bool borne_by_tenant = rows["RepairByTenant"].number() == 1;
+            sprAnnualRent.set_text(label_column, RentRow::repairs, borne_by_tenant ? "1" : "0");
+            sprAnnualRent.set_text(amount_column, RentRow::months, rows["AmtDepositedformonths"].text());
+        }
+        sprAnnualRent_Change(amount_column, RentRow::rent);
+        sprAnnualRent_Change(amount_column, RentRow::deposit);
+    });
+}
+
+void AnnualRentPanel::SaveAnnualRent() {
+    procedure(session_, "frmImmovable - SaveAnnualRent", [this](const Attempt& attempt) {
+        const int property_no = immovable_.sprImmovable.active_column() - 1;
+        session_.SqlText = "Select * From [Annual Rent] Where " + rent_key(session_, property_no);
+        RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
+        if (rows.eof()) {
+            rows.add_new();
+            rows.set("AssesseeNo", session_.AssesseeNo);
+            rows.set("FY", session_.CurrentFY);
+            rows.set("AssetType", session_.asset_type());
+            rows.set("PropertyNo", property_no);
+        }
+        for (int row = 1; row <= rent_rows; ++row) {
+            const RentItem& item = rent_items[static_cast<std::size_t>(row - 1)];
+            if (!item.stored_as.empty()) rows.set(item.stored_as, sprAnnualRent.value(amount_column, row));
+        }
+        rows.set("RepairByTenant", sprAnnualRent.text(label_column, RentRow::repairs) == "1" ? 1 : 0);
+        rows.set("AmtDepositedformonths", sprAnnualRent.value(amount_column, RentRow::months));
+        attempt([&] { rows.update(); });
+    });
+}
+
+} // namespace levora::schedules

@@ -1,0 +1,175 @@
+#include "schedules/assets_screen.h"
+
+#include "schedules/asset_opening.h"
+#include "session/common_services.h"
+
+namespace levora::schedules {
+
+using session::Attempt;
+using session::procedure;
+using session::RowSet;
+using session::RowSetUse;
+
+namespace {
+
+// A control of another screen, by its name; that screen is loaded.
+template <class T> T& control_of(widgets::Form& form, std::string_view name) {
+    auto* control = dynamic_cast<T*>(form.find(name));
+    if (control == nullptr) throw Failure(424, form.name() + " has no " + std::string(name));
+    return *control;
+}
+
+} // namespace
+
+frmImmovable::frmImmovable(session::Session& session)
+    : Screen(session, "frmImmovable", "Details of Wealth Tax"),
+      SSTabAsset(
+          *this, "SSTabAsset",
+          {"Immovable Property", "Urban Land", "Movable Property", "Interest in Firm or AOP", "Jewellery"}),
+      immovable(*this, session), urban_land(*this, session), movable(*this, session), firm(*this, session),
+      jewellery(*this, session), frWTDetails(*this, "frWTDetails"),
+      txtNetImmovableProperty(*this, "txtNetImmovableProperty", "Immovable Property"),
+      txtNetMovableProperty(*this, "txtNetMovableProperty", "Movable Property"),
+      txtNetUrbanLand(*this, "txtNetUrbanLand", "Urban Land"),
+      txtNetInterestInFirm(*this, "txtNetInterestInFirm", "Interest in Firm or AOP"),
+      txtNetBusinessAssets(*this, "txtNetBusinessAssets", "Business Asset"),
+      txtNetJewellery(*this, "txtNetJewellery", "Jewellery"),
+      txtTotalNetAmount(*this, "txtTotalNetAmount", "Total Asset"), cmdOK(*this, "cmdOK", "&Ok"),
+      cmdBusinessAsset(*this, "cmdBusinessAsset", "&Business Asset"),
+      mnuContextMenu(*this, "mnuContextMenu", "Spread Menu"),
+      mnuAddColumn(*this, "mnuAddColumn", "Add Column", mnuContextMenu),
+      mnuDeleteColumn(*this, "mnuDeleteColumn", "Delete Column", mnuContextMenu),
+      mnuConxtRow(*this, "mnuConxtRow", "SpreadForRows"),
+      mnuInsertRow(*this, "mnuInsertRow", "Insert Row", mnuConxtRow),
+      mnuDeleteRow(*this, "mnuDeleteRow", "Delete Row", mnuConxtRow),
+      mnuPreview(*this, "mnuPreview", "Preview Sheet", mnuConxtRow),
+      mnuPrint(*this, "mnuPrint", "Print Sheet", mnuConxtRow) {
+    connect_summary();
+    connect_counts();
+    connect_menus();
+    connect_buttons();
+}
+
+bool frmImmovable::in_main_mode() const {
+    return !session_.BusinessAssetFlag && !session_.DeemedAssetFlag;
+}
+
+AssetSchedule& frmImmovable::schedule(int tab) {
+    const std::array<AssetSchedule*, asset_tabs> by_tab{&immovable, &urban_land, &movable, &firm, &jewellery};
+    return *by_tab.at(static_cast<std::size_t>(tab));
+}
+
+void frmImmovable::connect_summary() {
+    immovable.txtImmovableNetAmount.on_change = [this] {
+        if (in_main_mode()) txtNetImmovableProperty.set_text(immovable.txtImmovableNetAmount.text());
+    };
+    urban_land.txtNetAmount.on_change = [this] {
+        if (in_main_mode()) txtNetUrbanLand.set_value(urban_land.txtNetAmount.value());
+    };
+    firm.txtTotalInterestInFirm.on_change = [this] {
+        if (in_main_mode()) txtNetInterestInFirm.set_text(firm.txtTotalInterestInFirm.text());
+    };
+    jewellery.txtAggNetAmt.on_change = [this] { txtNetJewellery.set_text(jewellery.txtAggNetAmt.text()); };
+    for (widgets::TextField* part : {&txtNetImmovableProperty, &txtNetMovableProperty, &txtNetUrbanLand,
+                                     &txtNetInterestInFirm, &txtNetBusinessAssets, &txtNetJewellery}) {
+        part->set_locked(true);
+        part->on_change = [this] {
+            txtTotalNetAmount.set_value(txtNetImmovableProperty.value() + txtNetMovableProperty.value() +
+                                        txtNetUrbanLand.value() + txtNetInterestInFirm.value() +
+                                        txtNetBusinessAssets.value() + txtNetJewellery.value());
+        };
+    }
+    txtTotalNetAmount.set_locked(true);
+}
+
+void frmImmovable::connect_buttons() {
+    cmdOK.on_click = [this] { cmdOK_Click(); };
+    cmdBusinessAsset.on_click = [this] { cmdBusinessAsset_Click(); };
+}
+
+void frmImmovable::Form_Load() {
+    property_count_ = 0;
+    jewellery_count_ = 0;
+    LoadAssetComputation();
+    session::SkinButtons(*this);
+    mnuContextMenu.set_visible(false);
+    mnuConxtRow.set_visible(false);
+}
+
+void frmImmovable::LoadAssetComputation() {
+    procedure(session_, "frmImmovable - LoadAssetComputation", [this](const Attempt& attempt) {
+        immovable.load(attempt);
+        urban_land.load(attempt);
+        movable.load(attempt);
+        firm.load(attempt);
+        load_asset_details(attempt);
+        jewellery.load(attempt);
+    });
+}
+
+void frmImmovable::SaveAssetComputation() {
+    procedure(session_, "frmImmovable - SaveAssetComputation", [this](const Attempt& attempt) {
+        immovable.save(attempt);
+        urban_land.save(attempt);
+        movable.save(attempt);
+        firm.save(attempt);
+        save_asset_details(attempt);
+        jewellery.save(attempt);
+    });
+}
+
+void frmImmovable::load_asset_details(const Attempt& attempt) {
+    session_.SqlText = "Select * From [Asset Details] Where " + asset_key(session_);
+    const RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
+    if (rows.eof()) return;
+    txtNetUrbanLand.set_value(rows["NetUrbanLand"].number());
+    txtNetMovableProperty.set_value(rows["NetMovableProperty"].number());
+    txtNetInterestInFirm.set_value(rows["NetInterestInFirm"].number());
+    txtNetBusinessAssets.set_value(rows["NetBusinessAssets"].number());
+}
+
+void frmImmovable::save_asset_details(const Attempt& attempt) {
+    session_.SqlText = "Select * From [Asset Details] Where " + asset_key(session_);
+    RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
+    if (rows.eof()) {
+        rows.add_new();
+        rows.set("AssesseeNo", session_.AssesseeNo);
+        rows.set("FY", session_.CurrentFY);
+        rows.set("AssetType", session_.asset_type());
+    }
+    rows.set("ImmovablePropertyDebtOwed", 0);
+    rows.set("NetImmovableProperty", txtNetImmovableProperty.value());
+    rows.set("NetUrbanLand", txtNetUrbanLand.value());
+    rows.set("NetMovableProperty", txtNetMovableProperty.value());
+    rows.set("NetInterestInFirm", txtNetInterestInFirm.value());
+    rows.set("NetBusinessAssets", txtNetBusinessAssets.value());
+    rows.set("TotalNetAsset", txtTotalNetAmount.value());
+    attempt([&] { rows.update(); });
+}
+
+void frmImmovable::cmdOK_Click() {
+    SaveAssetComputation();
+    widgets::Screens& screens = session_.screens;
+    if (in_main_mode()) {
+        widgets::Form& sheet = screens.show("frmWealthMain");
+        control_of<widgets::TextField>(sheet, "txtAssetsSec2ea").set_text(txtTotalNetAmount.text());
+    } else {
+        const AssetParent& parent = asset_parent(session_);
+        auto& grid = control_of<widgets::Grid>(screens.show(parent.screen), parent.grid);
+        for (int tab = 0; tab < asset_tabs; ++tab) {
+            if (SSTabAsset.tab_enabled(tab)) {
+                grid.set_text(5, grid.active_row(), schedule(tab).value_for_parent());
+                break;
+            }
+        }
+    }
+    screens.unload(name());
+}
+
+void frmImmovable::cmdBusinessAsset_Click() {
+    // Nothing is saved first: what was typed since the last OK is lost.
+    session_.screens.show("frmBusinessAssets");
+    session_.screens.unload(name());
+}
+
+} // namespace levora::schedules
