@@ -1,0 +1,40 @@
+# Installing and the Debian package. The programs, their report layouts, schema and animation lie in one
+# folder of their own, as the program looks for them beside itself; /usr/bin holds links.
+set(levora_home ${CMAKE_INSTALL_LIBDIR}/levora-wealth-tax)
+
+foreach(program levora-wealth-tax levora-wealth-script levora-wealth-data)
+    if(TARGET ${program})
+        install(TARGETS ${program} RUNTIME DESTINATION ${levora_home})
+        install(CODE "
+            set(bin \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}\")
+            file(MAKE_DIRECTORY \"\${bin}\")
+            file(CREATE_LINK \"../${levora_home}/${program}\" \"\${bin}/${program}\" SYMBOLIC)")
+        install(FILES share/man/${program}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+    endif()
+endforeach()
+foreach(part Report)
+    if(EXISTS ${CMAKE_SOURCE_DIR}/${part})
+        install(DIRECTORY ${part} DESTINATION ${levora_home})
+    endif()
+endforeach()
+file(GLOB schemas ${CMAKE_SOURCE_DIR}/share/*.xsd)
+install(FILES ${schemas} DESTINATION ${levora_home})
+install(FILES share/levora-wealth-tax.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES share/levora-wealth-tax.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES share/icons/levora-wealth-tax.svg
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+install(FILES README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR})
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME levora-wealth-tax)
+set(CPACK_PACKAGE_CONTACT "Levora <team@levora.example>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Indian wealth tax: computation, return, challan")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_DEBIAN_PACKAGE_SECTION misc)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# QUiLoader and the platform plugin are loaded at run time; paper needs both font families.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6uitools6, libqt6svg6, qt6-qpa-plugins, fonts-liberation, fonts-dejavu-core")
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_STRIP_FILES ON)
+include(CPack)
