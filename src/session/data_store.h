@@ -3,6 +3,7 @@
 #include "widgets/date_text.h"
 #include "widgets/failure.h"
 
+#include <chrono>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -76,9 +77,11 @@ public:
     void set(std::string_view column, const Value& value);
     void update();
 
+    struct State; // of the store engine
+
 private:
     friend class Connection;
-    struct State;
+    [[nodiscard]] State& open_state() const;
     std::unique_ptr<State> state_;
 };
 
@@ -109,8 +112,14 @@ public:
     void commit();
     [[nodiscard]] bool in_transaction() const;
 
+    // A full or failing disk can make the store take back all rows of the transaction in hand. What
+    // still comes of the same save then fails in the same way, so that half of it never stands alone,
+    // until the event is over and this is called.
+    void forget_loss();
+    // How long a store that another program keeps is waited for; 10 seconds unless told.
+    void set_longest_wait(std::chrono::milliseconds longest_wait);
+
 private:
-    friend class RowSet;
     struct State;
     std::unique_ptr<State> state_;
 };

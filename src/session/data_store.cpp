@@ -1,0 +1,187 @@
+#include "session/data_store.h"
+
+#include "session/file_faults.h"
+#include "session/row_set.h"
+#include "session/store_engine.h"
+#include "session/store_tables.h"
+#include "widgets/value_text.h"
+
+#include <array>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace levora::session {
+
+namespace {
+
+constexpr std::array<std::string_view, 4> base_names{"LVWTax", "Assessee", "LVIT", "LVForms"};
+
+[[noreturn]] void throw_closed() {
+    throw Failure(
+        error_number::closed_connection,
+        "The connection cannot be used to perform this operation. It is either closed or invalid in "
+        "this context.");
+}
+
+// A whole table is told by its bare name: "Challan", "[TempPrint]".
+std::string select_of(std::string_view told) {
+    const std::string_view name = trimmed(told);
+    const bool bracketed = name.size() > 2 && name.front() == '[' && name.find(']') == name.size() - 1;
+    if (!name.empty() && (bracketed || name.find_first_of(" \t\r\n;*(") == std::string_view::npos))
+        return "Select * From " + std::string(name);
+    return std::string(told);
+}
+
+} // namespace
+
+struct Connection::State {
+    std::shared_ptr<OpenStore> store;
+    std::string file;
+    std::chrono::milliseconds longest_wait{std::chrono::seconds(10)};
+};
+
+Connection::Connection() : state_(std::make_unique<State>()) {}
+
+Connection::~Connection() {
+    if (!state_->store) return;
+    try {
+        state_->store->commit();
+    } catch (const Failure&) {
+        state_->store->rollback(); // nobody is left to be told
+    }
+}
+
+void Connection::open(const std::string& connect_string) {
+    if (state_->store) throw Failure(3705, "Operation is not allowed when the object is open.");
+    const std::string told = data_source(connect_string);
+    if (told.empty())
+        throw Failure(error_number::store_not_found,
+                      "Could not find file '': the connect string names none.");
+    state_->store = std::make_shared<OpenStore>(store_file(told));
+    state_->store->set_longest_wait(state_->longest_wait);
+    state_->file = state_->store->file();
+}
+
+void Connection::close() {
+    if (!state_->store) throw_closed();
+    state_->store->commit();
+    state_->store.reset();
+}
+
+bool Connection::is_open() const {
+    return state_->store != nullptr;
+}
+
+const std::string& Connection::file() const {
+    return state_->file;
+}
+
+void Connection::set_longest_wait(std::chrono::milliseconds longest_wait) {
+    state_->longest_wait = longest_wait;
+    if (state_->store) state_->store->set_longest_wait(longest_wait);
+}
+
+int Connection::execute(std::string_view statement) {
+    if (!state_->store) throw_closed();
+    OpenStore& store = *state_->store;
+    const StatementText translated = translate(statement);
+    store.attach(translated.attached);
+    PreparedStatement prepared = store.prepare(translated.text);
+    if (!prepared) return 0;
+    if (!sqlite3_stmt_readonly(prepared.get())) store.begin();
+    const int before = sqlite3_total_changes(store.database());
+    while (store.step(prepared.get())) {
+    }
+    prepared.reset();
+    store.detach_all();
+    return sqlite3_total_changes(store.database()) - before;
+}
+
+RowSet Connection::open_rows(std::string_view select, RowSetUse use) {
+    if (!state_->store) throw_closed();
+    OpenStore& store = *state_->store;
+    const StatementText translated = translate(select_of(select));
+    if (use == RowSetUse::update) store.begin_if_writable();
+    store.attach(translated.attached);
+    RowSet rows;
+    rows.state_ = read_rows(state_->store, translated, use);
+    store.detach_all();
+    return rows;
+}
+
+void Connection::commit() {
+    if (state_->store) state_->store->commit();
+}
+
+bool Connection::in_transaction() const {
+    return state_->store && state_->store->in_transaction();
+}
+
+void Connection::forget_loss() {
+    if (state_->store) state_->store->forget_loss();
+}
+
+std::string_view base_name(Store store) {
+    return base_names.at(static_cast<std::size_t>(store));
+}
+
+std::optional<Store> store_of(std::string_view name) {
+    for (const Store each : all_stores)
+        if (equal_without_case(base_name(each), name)) return each;
+    return std::nullopt;
+}
+
+std::string store_path(const std::string& folder, Store store) {
+    const std::string separator = folder.ends_with('/') ? "" : "/";
+    return folder + separator + std::string(base_name(store)) + ".db";
+}
+
+void create_store(const std::string& folder, Store store) {
+    const std::string path = store_path(folder, store);
+    const int descriptor = ::open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, shared_file_mode);
+    if (descriptor < 0 && errno == EEXIST)
+        throw Failure(error_number::path_access, path + ": there is a store already");
+    if (descriptor < 0) throw_file_fault(path, errno);
+    (void)::fchmod(descriptor, shared_file_mode);
+    ::close(descriptor);
+    try {
+        OpenStore made(path);
+        made.begin();
+        for (const TableRule& each : store_tables()) {
+            if (each.store != store) continue;
+            made.run(create_table_statement(each));
+            if (const std::string index = create_index_statement(each); !index.empty()) made.run(index);
+        }
+        made.commit();
+    } catch (const Failure&) {
+        ::unlink(path.c_str());
+        throw;
+    }
+}
+
+StatementResult run_statement(const std::string& folder, Store store, std::string_view statement) {
+    const auto opened = std::make_shared<OpenStore>(store_path(folder, store));
+    const StatementText translated = translate(statement);
+    opened->attach(translated.attached);
+    StatementResult result;
+    const PreparedStatement prepared = prepare_select(*opened, translated);
+    if (!prepared) return result;
+    const int count = sqlite3_column_count(prepared.get());
+    result.is_select = count > 0;
+    for (int i = 0; i < count; ++i)
+        result.columns.emplace_back(sqlite3_column_name(prepared.get(), i));
+    // Not within a transaction of ours, as some statements refuse to run in one; the turn is waited for.
+    if (!sqlite3_stmt_readonly(prepared.get())) opened->enter_gate();
+    while (opened->step(prepared.get())) {
+        std::vector<Value>& row = result.rows.emplace_back();
+        for (int i = 0; i < count; ++i)
+            row.push_back(column_value(prepared.get(), i));
+    }
+    result.rows_touched = sqlite3_total_changes(opened->database());
+    return result;
+}
+
+} // namespace levora::session

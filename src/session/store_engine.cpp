@@ -1,0 +1,231 @@
+#include "session/store_engine.h"
+
+#include "session/file_faults.h"
+#include "widgets/value_text.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <thread>
+#include <type_traits>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace levora::session {
+
+namespace {
+
+// A store that is not there, or may not be read, is told before the engine's own words for it.
+void check_file(const std::string& file) {
+    const std::filesystem::path path(file);
+    struct stat found {};
+    const std::string folder = path.has_parent_path() ? path.parent_path().string() : ".";
+    if (::stat(folder.c_str(), &found) != 0 || !S_ISDIR(found.st_mode))
+        throw Failure(error_number::path_not_found, "Path not found: " + folder);
+    if (::stat(file.c_str(), &found) != 0)
+        throw Failure(error_number::store_not_found,
+                      "Could not find file '" + file + "': " + reason_of(errno) + ".");
+    if (S_ISDIR(found.st_mode)) throw_file_fault(file, EISDIR);
+    if (::access(file.c_str(), R_OK) != 0) throw_file_fault(file, errno);
+}
+
+std::optional<Store> store_of_file(const std::string& file) {
+    return store_of(std::filesystem::path(file).stem().string());
+}
+
+} // namespace
+
+OpenStore::OpenStore(std::string file) : file_(std::move(file)), store_(store_of_file(file_)), gate_(file_) {
+    check_file(file_);
+    sqlite3* database = nullptr;
+    const int code =
+        sqlite3_open_v2(file_.c_str(), &database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    database_.reset(database);
+    if (code != SQLITE_OK) fail(code);
+    sqlite3_extended_result_codes(database, 1);
+    sqlite3_db_config(database, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(database, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+    sqlite3_db_config(database, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    sqlite3_busy_handler(database, wait_while_busy, this);
+    run("PRAGMA synchronous = FULL");
+    // Rows stay in memory until the commit, so that readers are kept out for that moment only.
+    run("PRAGMA cache_spill = OFF");
+    // A foreign or damaged file says so here, not at its first use.
+    run("SELECT count(*) FROM sqlite_schema");
+}
+
+OpenStore::~OpenStore() {
+    detach_all();
+}
+
+int OpenStore::wait_while_busy(void* self, int attempts) {
+    auto& store = *static_cast<OpenStore*>(self);
+    const auto now = std::chrono::steady_clock::now();
+    if (attempts == 0) store.busy_until_ = now + store.longest_wait_;
+    if (now >= store.busy_until_) return 0;
+    std::this_thread::sleep_for(std::chrono::milliseconds(std::min(1 + attempts / 4, 10)));
+    return 1;
+}
+
+void OpenStore::fail(int code) {
+    const int number = database_ ? sqlite3_extended_errcode(database_.get()) : code;
+    const std::string text = database_ ? sqlite3_errmsg(database_.get()) : sqlite3_errstr(code);
+    Failure failure(number, text);
+    switch (code & 0xFF) {
+    case SQLITE_FULL:
+        failure = Failure(error_number::disk_full, file_ + ": the disk is full");
+        break;
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        failure = Failure(number, file_ + ": " + text + ": another program keeps it for too long");
+        break;
+    case SQLITE_READONLY:
+    case SQLITE_PERM:
+        failure = Failure(error_number::permission_denied, file_ + ": " + text);
+        break;
+    case SQLITE_IOERR:
+    case SQLITE_CANTOPEN:
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+    case SQLITE_PROTOCOL:
+        failure = Failure(number, file_ + ": " + text);
+        break;
+    default:
+        break;
+    }
+    if (begun_ && !in_transaction()) {
+        begun_ = false;
+        gate_.leave();
+        loss_ = Failure(failure.number, std::string(failure.what()) + " (this save was taken back)");
+    }
+    throw failure;
+}
+
+PreparedStatement OpenStore::prepare(const std::string& text) {
+    sqlite3_stmt* statement = nullptr;
+    const int code = sqlite3_prepare_v2(database_.get(), text.c_str(), static_cast<int>(text.size()) + 1,
+                                        &statement, nullptr);
+    if (code != SQLITE_OK) fail(code);
+    return PreparedStatement(statement);
+}
+
+bool OpenStore::step(sqlite3_stmt* statement) {
+    const int code = sqlite3_step(statement);
+    if (code == SQLITE_ROW) return true;
+    if (code != SQLITE_DONE) fail(code);
+    return false;
+}
+
+void OpenStore::run(const std::string& text) {
+    const PreparedStatement statement = prepare(text);
+    while (statement && step(statement.get())) {
+    }
+}
+
+void OpenStore::attach(const std::vector<AttachedStore>& others) {
+    for (const AttachedStore& each : others) {
+        const std::string file = store_file(each.file);
+        check_file(file);
+        const PreparedStatement statement = prepare("ATTACH ? AS " + as_name(each.alias));
+        bind_value(*this, statement.get(), 1, file);
+        step(statement.get());
+        attached_.push_back(each.alias);
+    }
+}
+
+void OpenStore::detach_all() {
+    if (in_transaction()) return;
+    // A file that can't be let go now goes with the connection.
+    for (const std::string& alias : attached_)
+        sqlite3_exec(database_.get(), ("DETACH " + as_name(alias)).c_str(), nullptr, nullptr, nullptr);
+    attached_.clear();
+}
+
+bool OpenStore::in_transaction() const {
+    return database_ && sqlite3_get_autocommit(database_.get()) == 0;
+}
+
+void OpenStore::check_loss() {
+    if (loss_) throw Failure(*loss_);
+}
+
+void OpenStore::enter_gate() {
+    if (!gate_.enter(longest_wait_))
+        throw Failure(SQLITE_BUSY, file_ + ": database is locked: another program keeps it for too long");
+}
+
+void OpenStore::begin_if_writable() {
+    check_loss();
+    try {
+        begin();
+    } catch (const Failure& failure) {
+        if (failure.number != error_number::permission_denied) throw;
+    }
+}
+
+void OpenStore::begin() {
+    check_loss();
+    if (in_transaction()) return;
+    enter_gate();
+    try {
+        run("BEGIN IMMEDIATE");
+    } catch (const Failure&) {
+        gate_.leave();
+        throw;
+    }
+    begun_ = true;
+}
+
+void OpenStore::commit() {
+    if (!in_transaction()) return;
+    run("COMMIT");
+    begun_ = false;
+    gate_.leave();
+    detach_all();
+}
+
+void OpenStore::rollback() {
+    if (!in_transaction()) return;
+    begun_ = false;
+    sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
+    gate_.leave();
+    detach_all();
+}
+
+Value column_value(sqlite3_stmt* statement, int column) {
+    switch (sqlite3_column_type(statement, column)) {
+    case SQLITE_INTEGER:
+        return static_cast<std::int64_t>(sqlite3_column_int64(statement, column));
+    case SQLITE_FLOAT:
+        return sqlite3_column_double(statement, column);
+    case SQLITE_TEXT:
+    case SQLITE_BLOB: {
+        const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement, column));
+        const auto size = static_cast<std::size_t>(sqlite3_column_bytes(statement, column));
+        return bytes ? std::string(bytes, size) : std::string();
+    }
+    default:
+        return {};
+    }
+}
+
+void bind_value(OpenStore& store, sqlite3_stmt* statement, int place, const Value& value) {
+    const int code = std::visit(
+        [&](const auto& held) {
+            using Held = std::decay_t<decltype(held)>;
+            if constexpr (std::is_same_v<Held, std::int64_t>)
+                return sqlite3_bind_int64(statement, place, held);
+            else if constexpr (std::is_same_v<Held, double>)
+                return sqlite3_bind_double(statement, place, held);
+            else if constexpr (std::is_same_v<Held, std::string>)
+                return sqlite3_bind_text64(statement, place, held.data(), held.size(), SQLITE_TRANSIENT,
+                                           SQLITE_UTF8);
+            else
+                return sqlite3_bind_null(statement, place);
+        },
+        value.held());
+    if (code != SQLITE_OK) store.fail(code);
+}
+
+} // namespace levora::session

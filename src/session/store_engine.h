@@ -1,0 +1,85 @@
+#pragma once
+
+#include "session/data_store.h"
+#include "session/statement_text.h"
+#include "session/store_gate.h"
+
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <sqlite3.h>
+
+namespace levora::session {
+
+struct FinalizeStatement {
+    void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+};
+using PreparedStatement = std::unique_ptr<sqlite3_stmt, FinalizeStatement>;
+
+struct CloseDatabase {
+    void operator()(sqlite3* database) const { sqlite3_close_v2(database); }
+};
+
+// One store file, open: what a connection and its row sets share. All failures of the engine leave
+// here as a Failure with the engine's number and text, and the file's path where it is the file's.
+class OpenStore {
+public:
+    explicit OpenStore(std::string file);
+    ~OpenStore();
+    OpenStore(const OpenStore&) = delete;
+    OpenStore& operator=(const OpenStore&) = delete;
+
+    [[nodiscard]] const std::string& file() const { return file_; }
+    [[nodiscard]] std::optional<Store> store() const { return store_; }
+    void set_longest_wait(std::chrono::milliseconds longest_wait) { longest_wait_ = longest_wait; }
+    [[nodiscard]] sqlite3* database() const { return database_.get(); }
+
+    PreparedStatement prepare(const std::string& text);
+    // One step: true while it gives a row.
+    bool step(sqlite3_stmt* statement);
+    // Runs a statement to its end.
+    void run(const std::string& text);
+
+    // Attaches the other files that a statement names; they go when no transaction needs them.
+    void attach(const std::vector<AttachedStore>& others);
+    void detach_all();
+
+    // Starts the transaction in hand if there is none: waits for the gate.
+    void begin();
+    // The same, but a store that can't be written stays without: its rows can still be read.
+    void begin_if_writable();
+    // The turn alone, until this store is closed.
+    void enter_gate();
+    // Ends it. Rows that could not go down are then not there at all.
+    void commit();
+    void rollback();
+    [[nodiscard]] bool in_transaction() const;
+
+    // After the engine has taken written rows back by itself (full disk, failing disk), what still
+    // comes of the same save must not go down alone: it fails in the same way until this call.
+    void forget_loss() { loss_.reset(); }
+
+    [[noreturn]] void fail(int code);
+
+private:
+    static int wait_while_busy(void* self, int attempts);
+    void check_loss();
+
+    std::string file_;
+    std::optional<Store> store_;
+    std::unique_ptr<sqlite3, CloseDatabase> database_;
+    StoreGate gate_;
+    std::chrono::milliseconds longest_wait_{std::chrono::seconds(10)};
+    std::chrono::steady_clock::time_point busy_until_;
+    std::vector<std::string> attached_;
+    bool begun_ = false;
+    std::optional<Failure> loss_;
+};
+
+Value column_value(sqlite3_stmt* statement, int column);
+void bind_value(OpenStore& store, sqlite3_stmt* statement, int place, const Value& value);
+
+} // namespace levora::session

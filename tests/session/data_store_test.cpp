@@ -1,0 +1,196 @@
+#include "session/data_store.h"
+
+#include "session/data_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+namespace levora::session {
+namespace {
+
+using testing::DataFolder;
+using testing::failure_of;
+
+class DataStoreTest : public ::testing::Test {
+protected:
+    DataStoreTest() {
+        tax.open(folder.connect_string(Store::tax));
+        forms.open(folder.connect_string(Store::forms));
+    }
+
+    RowSet new_row(Connection& connection, std::string_view table) {
+        RowSet rows = connection.open_rows(table, RowSetUse::update);
+        rows.add_new();
+        return rows;
+    }
+
+    DataFolder folder;
+    Connection tax;
+    Connection forms;
+};
+
+TEST_F(DataStoreTest, RowsComeBackInTheOrderSavedAndNumbersStayNumbers) {
+    RowSet rows = tax.open_rows("Select * From PrePaidTaxes where AssesseeNo = 17 And FY = '2014-2015'",
+                                RowSetUse::update);
+    EXPECT_TRUE(rows.eof());
+    struct Paid {
+        const char* bank;
+        const char* date;
+        double amount;
+    };
+    for (const Paid& each :
+         {Paid{"Z Bank", "15/09/2014", 1250.5}, Paid{"", "", 0}, Paid{"A Bank", "2014-12-01", 7}}) {
+        rows.add_new();
+        rows.set("AssesseeNo", 17);
+        rows.set("FY", "2014-2015");
+        rows.set("bankbranchname", each.bank);
+        rows.set("DateOfPayment", each.date);
+        rows.set("Amount", each.amount);
+        rows.update();
+    }
+    EXPECT_EQ(folder.rows(Store::tax, "SELECT * FROM PrePaidTaxes"), "") << "not yet committed";
+    tax.commit();
+    EXPECT_EQ(folder.rows(Store::tax, "SELECT BankBranchName, DateOfPayment, Amount FROM PrePaidTaxes"),
+              "Z Bank|2014-09-15|1250.5; |Null|0; A Bank|2014-12-01|7");
+}
+
+TEST_F(DataStoreTest, ValuesThatDoNotFitAreRefusedByNameAndValue) {
+    struct Case {
+        const char* why;
+        const char* table;
+        const char* column;
+        Value value;
+        const char* failure;
+    };
+    const Case cases[] = {
+        {"an empty mask is no date", "NetWealthComputation", "DueDate", "__/__/____",
+         "13 column \"DueDate\": not a date: \"__/__/____\""},
+        {"nor is an empty text here", "NetWealthComputation", "ReturnDate", "",
+         "13 column \"ReturnDate\": not a date: \"\""},
+        {"a day that the calendar lacks", "NetWealthComputation", "DueDate", "31/04/2014",
+         "13 column \"DueDate\": not a date: \"31/04/2014\""},
+        {"a number is no date", "NetWealthComputation", "DueDate", 41912,
+         "13 column \"DueDate\": not a date: \"41912\""},
+        {"letters behind the number", "NetWealthComputation", "Refund", "12a",
+         "13 column \"Refund\": not a number: \"12a\""},
+        {"the empty text is no number", "PrePaidTaxes", "Amount", "",
+         "13 column \"Amount\": not a number: \"\""},
+        {"no number is endless", "PrePaidTaxes", "Amount", 1e308 * 10, "6 column \"Amount\": Overflow"},
+        {"an unknown column is named", "PrePaidTaxes", "Amout", 1,
+         "3265 Item cannot be found in the collection corresponding to the requested name or ordinal: "
+         "\"Amout\"."},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.why);
+        RowSet rows = new_row(tax, each.table);
+        EXPECT_EQ(failure_of([&] { rows.set(each.column, each.value); }), each.failure);
+    }
+}
+
+TEST_F(DataStoreTest, ChallanNumberIsKnownRightAfterAddNewAndNeverGivenTwice) {
+    RowSet rows = new_row(forms, "Challan");
+    EXPECT_EQ(rows["ChallanID"].text(), "1");
+    rows.set("ChallanDate", "30/09/2014");
+    rows.set("TypeOfPayment", 300);
+    rows.update();
+    EXPECT_EQ(rows["challanid"].text(), "1");
+    rows.close();
+    forms.execute("DELETE FROM CHALLAN Where ChallanID = 1 ;");
+
+    RowSet next = new_row(forms, "[Challan]");
+    EXPECT_EQ(next["ChallanID"].text(), "2");
+    forms.commit(); // an error report has come up between
+    Connection other;
+    other.open(folder.connect_string(Store::forms));
+    RowSet of_other = new_row(other, "Challan");
+    EXPECT_EQ(of_other["ChallanID"].text(), "3");
+    of_other.update();
+    other.close();
+    next.update();
+    forms.commit();
+    EXPECT_EQ(folder.rows(Store::forms, "SELECT ChallanID FROM Challan"), "2; 3");
+}
+
+TEST_F(DataStoreTest, AnUpdateInPlaceWritesTheRowThatItRead) {
+    folder.run(Store::tax, "INSERT INTO NetWealthComputation (AssesseeNo, FY, LessDebt, Interest) VALUES "
+                           "(1, '2014-2015', 5, NULL), (2, '2014-2015', 6, NULL)");
+    RowSet rows = tax.open_rows("Select * from NetWealthComputation WHERE AssesseeNo = 2", RowSetUse::update);
+    rows.set("Interest", "37.02");
+    EXPECT_EQ(rows["Interest"].number(), 37.02);
+    rows.update();
+    tax.commit();
+    EXPECT_EQ(folder.rows(Store::tax, "SELECT AssesseeNo, LessDebt, Interest FROM NetWealthComputation"),
+              "1|5|Null; 2|6|37.02");
+}
+
+TEST_F(DataStoreTest, AFailingStatementKeepsWhatWentBeforeIt) {
+    tax.execute("INSERT INTO Enclosure (AssesseeNo, FY, Description) VALUES (1, '2014-2015', 'first')");
+    EXPECT_EQ(failure_of([&] { tax.execute("INSERT INTO Enclosure (Descripton) VALUES ('x')"); }),
+              "1 table Enclosure has no column named Descripton");
+    EXPECT_EQ(failure_of([&] { tax.execute("UPDATE NetWealth SET Refund = 1"); }),
+              "1 no such table: NetWealth");
+    tax.commit();
+    EXPECT_EQ(folder.rows(Store::tax, "SELECT Description FROM Enclosure"), "first");
+}
+
+TEST_F(DataStoreTest, ClosedThingsSaySo) {
+    RowSet rows = tax.open_rows("Enclosure", RowSetUse::update);
+    RowSet kept = tax.open_rows("Enclosure", RowSetUse::update);
+    rows.close();
+    EXPECT_EQ(failure_of([&] { rows.add_new(); }),
+              "3704 Operation is not allowed when the object is closed.");
+    EXPECT_EQ(failure_of([&] { (void)rows["Figure"]; }),
+              "3704 Operation is not allowed when the object is closed.");
+    EXPECT_EQ(failure_of([&] { (void)kept["Figure"]; }), "3021 No current record.");
+    tax.close();
+    EXPECT_EQ(failure_of([&] { (void)tax.execute("DELETE * FROM Enclosure"); }).substr(0, 5), "3709 ");
+    EXPECT_EQ(failure_of([&] { kept.add_new(); }), "3709 The connection is closed.");
+}
+
+TEST_F(DataStoreTest, TheStoreItselfRefusesWrongTypes) {
+    const auto insert = [&](const std::string& what) {
+        return failure_of([&] { folder.run(Store::tax, "INSERT INTO NetWealthComputation " + what); });
+    };
+    EXPECT_EQ(insert("(LessDebt) VALUES ('abc')"),
+              "275 CHECK constraint failed: column LessDebt takes a number");
+    EXPECT_EQ(insert("(DueDate) VALUES ('2014-02-30')"),
+              "275 CHECK constraint failed: column DueDate takes a date");
+    EXPECT_EQ(insert("(DueDate) VALUES ('30/09/2014')"),
+              "275 CHECK constraint failed: column DueDate takes a date");
+    EXPECT_EQ(insert("(AssesseeNo) VALUES (1.5)"),
+              "275 CHECK constraint failed: column AssesseeNo takes a whole number");
+    EXPECT_EQ(insert("(LessDebt, DueDate) VALUES ('12.50', #09/30/2014#)"), "none");
+    EXPECT_EQ(folder.rows(Store::tax, "SELECT LessDebt, DueDate FROM NetWealthComputation"),
+              "12.5|2014-09-30");
+}
+
+TEST_F(DataStoreTest, AStatementReachesATableOfAnotherFile) {
+    folder.run(Store::assessee,
+               "INSERT INTO AssesseeInfo (AssesseeNo, Assessee_Name, Pin) VALUES (17, 'A', '1')");
+    const std::string from = "SELECT Assessee_Name, PIN FROM [" + folder.path() +
+                             "/Assessee.mdb; PWD=l1ght3nedf4rmh0us3s].AssesseeInfo where AssesseeNo=17 ";
+    tax.execute("DELETE FROM Enclosure"); // also within a transaction
+    for (int i = 0; i < 3; ++i) {
+        const RowSet rows = tax.open_rows(from);
+        EXPECT_EQ(rows["Assessee_Name"].text() + rows["pin"].text(), "A1");
+        tax.commit();
+    }
+}
+
+TEST_F(DataStoreTest, SharesFilesWithTheGroupAndNobodyElseWhateverTheMask) {
+    const mode_t old = ::umask(0077);
+    const DataFolder strict;
+    Connection connection;
+    connection.open(strict.connect_string(Store::tax));
+    connection.execute("INSERT INTO Enclosure (FY) VALUES ('x')");
+    for (const char* each : {"LVWTax.db", "LVWTax.gate", "LVWTax.db-journal"}) {
+        struct stat found {};
+        ASSERT_EQ(::stat((strict.path() + "/" + each).c_str(), &found), 0) << each;
+        EXPECT_EQ(found.st_mode & 0777U, 0660U) << each;
+    }
+    ::umask(old);
+}
+
+} // namespace
+} // namespace levora::session

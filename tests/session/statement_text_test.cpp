@@ -1,0 +1,74 @@
+#include "session/statement_text.h"
+
+#include "session/data_folder.h"
+
+#include <gtest/gtest.h>
+
+namespace levora::session {
+namespace {
+
+TEST(StatementTextTest, TurnsTheScreensWordsIntoTheEngines) {
+    struct Case {
+        const char* why;
+        const char* told;
+        const char* text;
+    };
+    constexpr Case cases[] = {
+        {"the asterisk of a delete says nothing", "DELETE * FROM T WHERE A = 1 ;",
+         "DELETE  FROM T WHERE A = 1 ;"},
+        {"that of a count stays", "SELECT count(*) FROM T", "SELECT count(*) FROM T ORDER BY rowid"},
+        {"dates are month first", "SELECT a FROM T WHERE D = #09/30/2014# ;",
+         "SELECT a FROM T WHERE D = '2014-09-30' ORDER BY rowid ;"},
+        {"literals stay", "UPDATE T SET a = '#09/30/2014# [b]; DELETE * FROM'",
+         "UPDATE T SET a = '#09/30/2014# [b]; DELETE * FROM'"},
+        {"a doubled quote ends no literal", "UPDATE T SET a = 'it''s #1/2/2014#'",
+         "UPDATE T SET a = 'it''s #1/2/2014#'"},
+        {"an order that leaves ties gets the saved one behind it", "Select * From [My T] Order by SrNo",
+         "Select * From [My T] Order by SrNo, rowid"},
+        {"a limit stays last", "SELECT a FROM T LIMIT 1", "SELECT a FROM T ORDER BY rowid LIMIT 1"},
+        {"several tables have no saved order", "SELECT a FROM T, U", "SELECT a FROM T, U"},
+        {"nor have groups", "SELECT a FROM T GROUP BY a", "SELECT a FROM T GROUP BY a"},
+        {"a comment is no statement", "SELECT a FROM T; -- #1/1/2014#",
+         "SELECT a FROM T ORDER BY rowid; -- #1/1/2014#"},
+        {"another folder's file", "SELECT a FROM [/d/x]y/Assessee.mdb; PWD=p].AssesseeInfo where a=1 ",
+         "SELECT a FROM other_store_1.AssesseeInfo where a=1 ORDER BY rowid "},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.why);
+        EXPECT_EQ(translate(each.told).in_saved_order(), each.text);
+    }
+    EXPECT_EQ(translate("SELECT a FROM [/d/x]y/Assessee.mdb; PWD=p].T").attached.at(0).file,
+              "/d/x]y/Assessee.mdb");
+    EXPECT_EQ(translate("Select * From T Where Clause='SchBTP'").with_row_number(),
+              "Select rowid, * From T Where Clause='SchBTP' ORDER BY rowid");
+}
+
+TEST(StatementTextTest, RefusesASecondStatementAndADateThatIsNone) {
+    EXPECT_EQ(testing::failure_of([] { translate("DELETE FROM T; DELETE FROM U"); }),
+              "1 Characters found after end of statement: DELETE");
+    EXPECT_EQ(testing::failure_of([] { translate("SELECT a FROM T WHERE d = #02/30/2014#"); }),
+              "1 Syntax error in date in statement: #02/30/2014#");
+}
+
+TEST(StatementTextTest, FindsTheFileBehindAConnectString) {
+    struct Case {
+        const char* why;
+        const char* told;
+        const char* file;
+    };
+    constexpr Case cases[] = {
+        {"the usual", "Provider=P;Data Source=/data/LVWTax.mdb;Jet OLEDB:Database Password=x;",
+         "/data/LVWTax.db"},
+        {"no folder set", "Provider=P;Data Source=/LVIT.mdb;Jet", "/LVIT.db"},
+        {"a folder's own semicolon", "Data Source=/a;b/LVIT.mdb;Jet", "/a;b/LVIT.db"},
+        {"a kept separator", "data source=/data\\LVWTax.mdb", "/data/LVWTax.db"},
+        {"none", "Provider=P;", ""},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.why);
+        EXPECT_EQ(store_file(data_source(each.told)), each.file);
+    }
+}
+
+} // namespace
+} // namespace levora::session
