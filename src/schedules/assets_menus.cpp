@@ -10,6 +10,20 @@ void frmImmovable::connect_menus() {
 
     mnuAddColumn.on_click = [this] { mnuAddColumn_Click(); };
     mnuDeleteColumn.on_click = [this] { mnuDeleteColumn_Click(); };
+    mnuInsertRow.on_click = [this] {
+        // Wanted: the Insert key alone, which no grid of this screen answers without Ctrl.
+        if (widgets::Grid* grid = active_grid()) grid->press_key("Insert");
+    };
+    mnuDeleteRow.on_click = [this] {
+        // Wanted: these five characters, not the Escape key; Escape would ask for the deletion of rows.
+        if (widgets::Grid* grid = active_grid())
+            for (const char32_t character : std::u32string_view(U"(ESC)"))
+                grid->type_character(character);
+    };
+}
+
+widgets::Grid* frmImmovable::active_grid() const {
+    return dynamic_cast<widgets::Grid*>(active_control());
 }
 
 } // namespace levora::schedules

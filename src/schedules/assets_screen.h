@@ -73,6 +73,8 @@ private:
     void connect_menus();
     void connect_buttons();
     [[nodiscard]] bool in_main_mode() const;
+    // The grid that a menu item works on: the active control; null when it is no grid.
+    [[nodiscard]] widgets::Grid* active_grid() const;
 
     void load_asset_details(const session::Attempt& attempt);
     void save_asset_details(const session::Attempt& attempt);
