@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -89,6 +90,12 @@ public:
     // Brings pending rows of all stores down. Ends a transaction before a box waits for a person, and
     // each outermost event.
     void commit_all();
+
+    // What a screen's preview button asks of the reports, by the report's name: "Challan282", "FormBB",
+    // "RepWealthTax". Reports lie above the screens and register themselves here.
+    std::map<std::string, std::function<void()>> paper;
+    // Sends a filled report to the chosen printer: the desktop in earnest, a script records it.
+    std::function<void(const std::shared_ptr<document::Report>&)> print_report;
 
     // Last: its screens refer to all of the above and go first.
     widgets::Screens screens;
