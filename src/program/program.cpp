@@ -1,0 +1,57 @@
+#include "program/program.h"
+
+#include "widgets/value_text.h"
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <string_view>
+#include <unistd.h>
+#include <utility>
+
+namespace levora::program {
+
+namespace {
+
+constexpr std::string_view start_screen = "frmWealthMain";
+constexpr std::size_t computer_name_length = 15; // a buffer of 16 with its closing NUL
+
+// Which screen is made by which name.
+struct ScreenEntry {
+    std::string_view name;
+    std::unique_ptr<widgets::Form> (*make)(session::Session& session);
+};
+
+template <class T> std::unique_ptr<widgets::Form> make_screen(session::Session& session) {
+    return std::make_unique<T>(session);
+}
+
+constexpr std::array<ScreenEntry, 0> screens{};
+
+} // namespace
+
+Program::Program(session::Surroundings surroundings) : session_(std::move(surroundings)) {
+    for (const ScreenEntry& screen : screens)
+        session_.screens.define(std::string(screen.name),
+                                [this, make = screen.make] { return make(session_); });
+}
+
+void Program::start() {
+    started_ = true;
+    session_.screens.show(start_screen);
+}
+
+std::vector<std::string> Program::screen_names() {
+    std::vector<std::string> names;
+    for (const ScreenEntry& screen : screens)
+        names.emplace_back(screen.name);
+    return names;
+}
+
+std::string computer_name() {
+    std::array<char, 256> name{};
+    if (gethostname(name.data(), name.size() - 1) != 0) return {};
+    return std::string(trimmed(std::string_view(name.data()).substr(0, computer_name_length)));
+}
+
+} // namespace levora::program
