@@ -1,0 +1,118 @@
+#include "session/whole_folder.h"
+
+#include "session/file_faults.h"
+#include "session/store_engine.h"
+#include "session/store_tables.h"
+#include "widgets/value_text.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <list>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace levora::session {
+
+struct WholeFolder::State {
+    explicit State(const std::string& folder) : store(store_path(folder, Store::tax)) {}
+
+    OpenStore store;
+    std::list<StoreGate> other_gates;
+};
+
+WholeFolder::WholeFolder(const std::string& folder) : state_(std::make_unique<State>(folder)) {
+    constexpr std::chrono::seconds longest_wait(10);
+    OpenStore& store = state_->store;
+    std::vector<AttachedStore> others;
+    for (const Store each : all_stores)
+        if (each != Store::tax) others.push_back({std::string(base_name(each)), store_path(folder, each)});
+    store.attach(others);
+    store.enter_gate();
+    // Everyone who wants all gates takes them in this order.
+    for (const AttachedStore& each : others)
+        if (!state_->other_gates.emplace_back(each.file).enter(longest_wait))
+            throw Failure(SQLITE_BUSY,
+                          each.file + ": database is locked: another program keeps it for too long");
+    store.begin();
+}
+
+WholeFolder::~WholeFolder() {
+    state_->store.rollback();
+}
+
+StatementResult WholeFolder::run(std::string_view statement) {
+    OpenStore& store = state_->store;
+    const StatementText translated = translate(statement);
+    const PreparedStatement prepared = store.prepare(translated.in_saved_order());
+    StatementResult result;
+    if (!prepared) return result;
+    const int count = sqlite3_column_count(prepared.get());
+    result.is_select = count > 0;
+    for (int i = 0; i < count; ++i)
+        result.columns.emplace_back(sqlite3_column_name(prepared.get(), i));
+    const int before = sqlite3_total_changes(store.database());
+    while (store.step(prepared.get())) {
+        std::vector<Value>& row = result.rows.emplace_back();
+        for (int i = 0; i < count; ++i)
+            row.push_back(column_value(prepared.get(), i));
+    }
+    result.rows_touched = sqlite3_total_changes(store.database()) - before;
+    return result;
+}
+
+void WholeFolder::insert(std::string_view table, const std::vector<std::string>& columns,
+                         const std::vector<Value>& values) {
+    std::string names;
+    std::string places;
+    for (const std::string& each : columns) {
+        names += (names.empty() ? "" : ", ") + as_name(each);
+        places += places.empty() ? "?" : ", ?";
+    }
+    OpenStore& store = state_->store;
+    const PreparedStatement statement =
+        store.prepare("INSERT INTO " + as_name(table) + " (" + names + ") VALUES (" + places + ")");
+    for (std::size_t i = 0; i < values.size(); ++i)
+        bind_value(store, statement.get(), static_cast<int>(i) + 1, values[i]);
+    store.step(statement.get());
+}
+
+bool WholeFolder::has_rows_of(std::int64_t assessee_no) {
+    for (const TableRule& each : store_tables()) {
+        if (!find_column(each, "AssesseeNo")) continue;
+        const StatementResult found = run("SELECT 1 FROM " + as_name(each.name) +
+                                          " WHERE AssesseeNo = " + std::to_string(assessee_no) + " LIMIT 1");
+        if (!found.rows.empty()) return true;
+    }
+    return false;
+}
+
+void WholeFolder::commit() {
+    state_->store.commit();
+    state_->other_gates.clear();
+}
+
+void create_data_folder(const std::string& folder) {
+    struct stat found {};
+    for (const Store each : all_stores)
+        if (::lstat(store_path(folder, each).c_str(), &found) == 0)
+            throw Failure(error_number::path_access, store_path(folder, each) + ": there is a store already");
+    const bool is_new = ::stat(folder.c_str(), &found) != 0;
+    std::error_code failed;
+    std::filesystem::create_directories(folder, failed);
+    if (failed) throw_file_fault(folder, failed.value());
+    if (is_new) (void)::chmod(folder.c_str(), shared_folder_mode);
+    std::vector<std::string> made;
+    try {
+        for (const Store each : all_stores) {
+            create_store(folder, each);
+            made.push_back(store_path(folder, each));
+        }
+    } catch (const Failure&) {
+        for (const std::string& each : made)
+            ::unlink(each.c_str());
+        throw;
+    }
+}
+
+} // namespace levora::session

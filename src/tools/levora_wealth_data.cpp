@@ -1,0 +1,78 @@
+#include "session/whole_folder.h"
+#include "tools/sample_clients.h"
+#include "widgets/failure.h"
+
+#include <cstdio>
+#include <exception>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+using Arguments = std::vector<std::string>;
+
+enum ExitCode { ok = 0, failed = 1, wrong_call = 2 };
+
+void say(const std::string& line) {
+    std::printf("%s\n", line.c_str());
+}
+
+int create(const Arguments& arguments) {
+    levora::session::create_data_folder(arguments[0]);
+    say(arguments[0] + ": four empty stores made");
+    return ok;
+}
+
+int sample(const Arguments& arguments) {
+    levora::tools::add_sample_clients(arguments[0]);
+    say(arguments[0] + ": sample clients added");
+    return ok;
+}
+
+struct Command {
+    std::string_view name;
+    std::string_view arguments;
+    std::size_t argument_count;
+    std::string_view help;
+    int (*run)(const Arguments& arguments);
+};
+
+constexpr Command commands[] = {
+    {"create", "FOLDER", 1, "make an empty data folder with its four stores", create},
+    {"sample", "FOLDER", 1, "add the sample clients to a data folder", sample},
+};
+
+void print_help(std::FILE* stream) {
+    std::fprintf(stream, "levora-wealth-data: looks after the data folders of Levora Wealth Tax\n\n");
+    for (const Command& each : commands)
+        std::fprintf(stream, "    levora-wealth-data %-7s %-22s %s\n", each.name.data(),
+                     each.arguments.data(), each.help.data());
+    std::fprintf(stream, "\nNothing is ever written over. Exit status: 0 done, 1 failed or faults found, "
+                         "2 wrong call.\n");
+}
+
+int run(std::span<char*> words) {
+    if (words.size() == 2 && (std::string_view(words[1]) == "--help" || std::string_view(words[1]) == "-h")) {
+        print_help(stdout);
+        return ok;
+    }
+    const std::string_view name = words.size() > 1 ? words[1] : "";
+    const Arguments arguments(words.begin() + (words.size() > 1 ? 2 : 1), words.end());
+    for (const Command& each : commands)
+        if (each.name == name && each.argument_count == arguments.size()) return each.run(arguments);
+    print_help(stderr);
+    return wrong_call;
+}
+
+} // namespace
+
+int main(int count, char** words) {
+    try {
+        return run(std::span(words, static_cast<std::size_t>(count)));
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "levora-wealth-data: %s\n", error.what());
+        return failed;
+    }
+}
