@@ -29,16 +29,6 @@ VALUES
      'Ahmedabad', 'Gujarat', 'INDIA', '380009', 'FP 212', 0, 600000, 60000,
      'Free hold land = (NMR X 12.5)', 5625000, 7000000, '0', 0, 0, 7000000, 2000000, 5000000, '', '',
      '');
-INSERT INTO [Annual Rent]
-    (AssesseeNo, FY, AssetType, PropertyNo, RecievableRent, TaxesBorneByTenant, RepairByTenant,
-     DepositAccepted, AmtDepositedformonths, RecievedAMTforLeaseProperty, BenefitFromTenantToOwner)
-VALUES
-    (102, '2014-2015', 0, 1, 450000, 20000, 1, 400000, 12, 0, 0);
-INSERT INTO [Unbuilt Area]
-    (AssesseeNo, FY, AssetType, PropertyNo, AggregateAreaOfPlot, BuiltUpAreaOfPlot,
-     CalculatedPercentage)
-VALUES
-    (102, '2014-2015', 0, 1, 1000, 200, 15);
 INSERT INTO [Unbuilt Area]
     (AssesseeNo, FY, AssetType, PropertyNo, AggregateAreaOfPlot, BuiltUpAreaOfPlot,
      CalculatedPercentage)
@@ -93,7 +83,7 @@ INSERT INTO [Asset Details]
     (AssesseeNo, FY, AssetType, ImmovablePropertyDebtOwed, NetImmovableProperty, NetUrbanLand,
      NetMovableProperty, NetInterestInFirm, NetBusinessAssets, TotalNetAsset)
 VALUES
-    (102, '2014-2015', 1, 0, 0, 0, 1150000, 0, 0, 2830000);
+    (102, '2014-2015', 1, 0, 0, 0, 0, 0, 0, 1680000);
 INSERT INTO [Asset Details]
     (AssesseeNo, FY, AssetType, ImmovablePropertyDebtOwed, NetImmovableProperty, NetUrbanLand,
      NetMovableProperty, NetInterestInFirm, NetBusinessAssets, TotalNetAsset)
@@ -108,7 +98,7 @@ VALUES
 INSERT INTO PrePaidTaxes
     (AssesseeNo, FY, BankBranchName, BankBranch, BSRCode, DateOfPayment, ChallanSrNo, Amount)
 VALUES
-    (102, '2014-2015', 'Bank of Baroda', 'Navrangpura', '0210876', '2014-07-18', '00231', 149400);
+    (102, '2014-2015', 'Bank of Baroda', 'Navrangpura', '0210876', '2014-07-18', '00231', 148300);
 INSERT INTO Enclosure
     (AssesseeNo, FY, Description, Figure)
 VALUES
@@ -119,7 +109,7 @@ INSERT INTO NetWealthComputation
      Audited, DueDate, ReturnDate, Interest, PrepainTaxInterest, BalanceTaxPayable, Refund)
 VALUES
     (102, '2014-2015', 17830000, 0, 17830000, 350000, 17830000, 0, 17830000, 17830000, 14830000,
-     148300, 1, '2014-09-30', '2014-09-30', 0, 149400, 0, 1100);
+     148300, 1, '2014-09-30', '2014-09-30', 0, 148300, 0, 0);
 
 -- Challan
 INSERT INTO Challan
@@ -127,5 +117,5 @@ INSERT INTO Challan
      IncomeTax, Surcharge, EducationCess, Interest, Penalty, Other, Total, ChqNo, ChqDate, DrawnOnBank,
      DateOfPayment, BankBranchName, BSRCode, ChallanSrNo)
 VALUES
-    (102, '2014-2015', 'ITNS282', '2014-07-18', 0, '300', NULL, 0, 149400, 0, 0, 0, 0, 0, 149400,
+    (102, '2014-2015', 'ITNS282', '2014-07-18', 0, '300', NULL, 0, 148300, 0, 0, 0, 0, 0, 148300,
      '400127', '2014-07-18', 'Bank of Baroda', '2014-07-18', 'Bank of Baroda', '0210876', '00231');

@@ -29,21 +29,6 @@ VALUES
      'Tamil Nadu', 'INDIA', '600086', 'R.S. 1290', 0, 900000, 90000, 'Free hold land = (NMR X 12.5)',
      8437500, 9500000, '20', 1900000, 0, 11400000, 3000000, 8400000, 'R. Natarajan', 'CAT-I/77/1995',
      '20/04/2014');
-INSERT INTO [Annual Rent]
-    (AssesseeNo, FY, AssetType, PropertyNo, RecievableRent, TaxesBorneByTenant, RepairByTenant,
-     DepositAccepted, AmtDepositedformonths, RecievedAMTforLeaseProperty, BenefitFromTenantToOwner)
-VALUES
-    (103, '2014-2015', 0, 1, 450000, 20000, 1, 400000, 12, 0, 0);
-INSERT INTO [Unbuilt Area]
-    (AssesseeNo, FY, AssetType, PropertyNo, AggregateAreaOfPlot, BuiltUpAreaOfPlot,
-     CalculatedPercentage)
-VALUES
-    (103, '2014-2015', 0, 1, 1000, 200, 15);
-INSERT INTO [Unbuilt Area]
-    (AssesseeNo, FY, AssetType, PropertyNo, AggregateAreaOfPlot, BuiltUpAreaOfPlot,
-     CalculatedPercentage)
-VALUES
-    (103, '2014-2015', 0, 1, 800, 260, 2.5);
 INSERT INTO [Unbuilt Area]
     (AssesseeNo, FY, AssetType, PropertyNo, AggregateAreaOfPlot, BuiltUpAreaOfPlot,
      CalculatedPercentage)

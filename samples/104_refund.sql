@@ -29,26 +29,6 @@ VALUES
      'Mumbai', 'Maharashtra', 'INDIA', '400006', 'CTS 551', 0, 420000, 42000,
      'Free hold land = (NMR X 12.5)', 3937500, 3600000, '20', 787500, 0, 4725000, 0, 4725000, '', '',
      '');
-INSERT INTO [Annual Rent]
-    (AssesseeNo, FY, AssetType, PropertyNo, RecievableRent, TaxesBorneByTenant, RepairByTenant,
-     DepositAccepted, AmtDepositedformonths, RecievedAMTforLeaseProperty, BenefitFromTenantToOwner)
-VALUES
-    (104, '2014-2015', 0, 1, 450000, 20000, 1, 400000, 12, 0, 0);
-INSERT INTO [Unbuilt Area]
-    (AssesseeNo, FY, AssetType, PropertyNo, AggregateAreaOfPlot, BuiltUpAreaOfPlot,
-     CalculatedPercentage)
-VALUES
-    (104, '2014-2015', 0, 1, 1000, 200, 15);
-INSERT INTO [Unbuilt Area]
-    (AssesseeNo, FY, AssetType, PropertyNo, AggregateAreaOfPlot, BuiltUpAreaOfPlot,
-     CalculatedPercentage)
-VALUES
-    (104, '2014-2015', 0, 1, 800, 260, 2.5);
-INSERT INTO [Unbuilt Area]
-    (AssesseeNo, FY, AssetType, PropertyNo, AggregateAreaOfPlot, BuiltUpAreaOfPlot,
-     CalculatedPercentage)
-VALUES
-    (104, '2014-2015', 0, 1, 1200, 360, 10);
 INSERT INTO [Unbuilt Area]
     (AssesseeNo, FY, AssetType, PropertyNo, AggregateAreaOfPlot, BuiltUpAreaOfPlot,
      CalculatedPercentage)

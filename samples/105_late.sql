@@ -32,32 +32,7 @@ INSERT INTO [Annual Rent]
     (AssesseeNo, FY, AssetType, PropertyNo, RecievableRent, TaxesBorneByTenant, RepairByTenant,
      DepositAccepted, AmtDepositedformonths, RecievedAMTforLeaseProperty, BenefitFromTenantToOwner)
 VALUES
-    (105, '2014-2015', 0, 1, 450000, 20000, 1, 400000, 12, 0, 0);
-INSERT INTO [Annual Rent]
-    (AssesseeNo, FY, AssetType, PropertyNo, RecievableRent, TaxesBorneByTenant, RepairByTenant,
-     DepositAccepted, AmtDepositedformonths, RecievedAMTforLeaseProperty, BenefitFromTenantToOwner)
-VALUES
     (105, '2014-2015', 0, 1, 720000, 0, 0, 360000, 6, 0, 12000);
-INSERT INTO [Unbuilt Area]
-    (AssesseeNo, FY, AssetType, PropertyNo, AggregateAreaOfPlot, BuiltUpAreaOfPlot,
-     CalculatedPercentage)
-VALUES
-    (105, '2014-2015', 0, 1, 1000, 200, 15);
-INSERT INTO [Unbuilt Area]
-    (AssesseeNo, FY, AssetType, PropertyNo, AggregateAreaOfPlot, BuiltUpAreaOfPlot,
-     CalculatedPercentage)
-VALUES
-    (105, '2014-2015', 0, 1, 800, 260, 2.5);
-INSERT INTO [Unbuilt Area]
-    (AssesseeNo, FY, AssetType, PropertyNo, AggregateAreaOfPlot, BuiltUpAreaOfPlot,
-     CalculatedPercentage)
-VALUES
-    (105, '2014-2015', 0, 1, 1200, 360, 10);
-INSERT INTO [Unbuilt Area]
-    (AssesseeNo, FY, AssetType, PropertyNo, AggregateAreaOfPlot, BuiltUpAreaOfPlot,
-     CalculatedPercentage)
-VALUES
-    (105, '2014-2015', 0, 1, 500, 150, 10);
 INSERT INTO [Movable Property Details]
     (AssesseeNo, FY, AssetType, SrNo, MovableDesc, MovableValue, DebtOwed, NetAmount)
 VALUES
