@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include "schedules/assets_screen.h"
 #include "widgets/value_text.h"
 
 #include <array>
@@ -26,7 +27,9 @@ template <class T> std::unique_ptr<widgets::Form> make_screen(session::Session& 
     return std::make_unique<T>(session);
 }
 
-constexpr std::array<ScreenEntry, 0> screens{};
+constexpr std::array screens{
+    ScreenEntry{"frmImmovable", make_screen<schedules::frmImmovable>},
+};
 
 } // namespace
 
