@@ -229,6 +229,18 @@ int tick(lua_State* state, Timer& timer) {
     return push(state, timer.tick());
 }
 
+int spin_up(lua_State* state, SpinButtons& buttons) {
+    return push(state, buttons.up());
+}
+int spin_down(lua_State* state, SpinButtons& buttons) {
+    return push(state, buttons.down());
+}
+
+constexpr Method spin_buttons_methods[] = {
+    {"up", control_method<SpinButtons, spin_up>},
+    {"down", control_method<SpinButtons, spin_down>},
+};
+
 constexpr Method timer_methods[] = {{"tick", control_method<Timer, tick>}};
 
 KindCalls calls_of(ControlKind kind) {
@@ -258,6 +270,8 @@ KindCalls calls_of(ControlKind kind) {
         return {tabs_properties, tabs_methods};
     case ControlKind::timer:
         return {timer_properties, timer_methods};
+    case ControlKind::spin_buttons:
+        return {{}, spin_buttons_methods};
     case ControlKind::grid:
         return grid_calls();
     }

@@ -1,5 +1,6 @@
 #include "script/lua_call.h"
 #include "script/proxies.h"
+#include "script/report_calls.h"
 #include "script/run_calls.h"
 #include "script/script_host.h"
 #include "session/settings.h"
@@ -81,6 +82,7 @@ void open_libraries(lua_State* state, const std::vector<std::string>& script) {
     script::open_proxies(state);
     script::open_run_calls(state);
     script::open_desk_calls(state);
+    script::open_report_calls(state);
     lua_createtable(state, static_cast<int>(script.size()), 1);
     for (std::size_t position = 0; position < script.size(); ++position) {
         lua_pushlstring(state, script[position].data(), script[position].size());

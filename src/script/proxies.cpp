@@ -2,6 +2,7 @@
 
 #include "script/control_calls.h"
 #include "script/lua_call.h"
+#include "script/report_calls.h"
 #include "script/script_host.h"
 #include "widgets/fields.h"
 #include "widgets/form.h"
@@ -101,6 +102,8 @@ bool push_screen_property(lua_State* state, const std::string& screen, std::stri
         push(state, form && (key == "visible" ? form->visible() : form->enabled()));
     } else if (key == "caption") {
         push(state, host_of(state).screen(screen).caption());
+    } else if (screen == "frmRepPreview" && key == "report") {
+        push_previewed_report(state);
     } else {
         return false;
     }

@@ -11,7 +11,12 @@
 #include <string>
 #include <string_view>
 #include <unordered_set>
+#include <utility>
+#include <vector>
 
+namespace levora::document {
+class Report;
+}
 namespace levora::program {
 class Program;
 }
@@ -47,6 +52,9 @@ public:
     // A program that ended during the last call goes, and its connections with it.
     void release_ended_program();
 
+    // The reports sent to the printer since the last taking, in order.
+    std::vector<std::shared_ptr<document::Report>> take_printed() { return std::exchange(printed_, {}); }
+
     // Where the stores lie: of the running program, else where the next start would look.
     [[nodiscard]] std::string data_folder() const;
 
@@ -62,6 +70,7 @@ public:
 
 private:
     std::unique_ptr<program::Program> program_;
+    std::vector<std::shared_ptr<document::Report>> printed_;
     std::unordered_set<std::string> screens_; // all that the program has
     std::unordered_set<std::string> names_;
 };

@@ -34,6 +34,7 @@ enum class ControlKind {
     frame,
     tabs,
     timer,
+    spin_buttons,
     grid,
 };
 

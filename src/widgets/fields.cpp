@@ -4,6 +4,7 @@
 #include "widgets/form.h"
 #include "widgets/utf8.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace levora::widgets {
@@ -226,6 +227,23 @@ void Timer::set_running(bool running) {
 bool Timer::tick() {
     if (!running_) return false;
     raise("Timer", on_tick);
+    return true;
+}
+
+SpinButtons::SpinButtons(Form& form, std::string name, TextField& field)
+    : Control(form, std::move(name), ControlKind::spin_buttons), field_(field) {}
+
+bool SpinButtons::up() {
+    return count(1);
+}
+bool SpinButtons::down() {
+    return count(-1);
+}
+
+bool SpinButtons::count(double by) {
+    if (!can_act() || !field_.enabled() || !field_.visible() || field_.locked()) return false;
+    become_active();
+    field_.set_value(std::max(0.0, field_.value() + by));
     return true;
 }
 

@@ -300,6 +300,21 @@ private:
     int tab_ = 0;
 };
 
+// A pair of small buttons beside a field of text, which count its number up and down by one. It never
+// counts below 0.
+class SpinButtons : public Control {
+public:
+    SpinButtons(Form& form, std::string name, TextField& field);
+
+    bool up(); // false when the buttons or the field can't be used
+    bool down();
+
+private:
+    bool count(double by);
+
+    TextField& field_;
+};
+
 // Fires on_tick each time its interval passes while it runs. The window lets time pass, or a script.
 class Timer : public Control {
 public:
