@@ -5,13 +5,12 @@
 #include "widgets/fields.h"
 #include "widgets/grid.h"
 
+#include <functional>
 #include <string>
 
 // The return of net wealth: the screen on which it is completed, and its parent window. The screen's
 // controls are the return's only data; its store is the XML document of ereturn.h.
 namespace levora::form_ba {
-
-class ReturnDocument;
 
 // The parent window of the return screen.
 class frmITMDIParent : public session::Screen {
@@ -41,6 +40,15 @@ public:
     void LoadXmlFile(const std::string& path);
     // Empties text fields and grids; masks and lists stay.
     void ClearFormBA();
+
+    // The change procedures of the grids: each writes its total, row by row.
+    void sprScheduleBTP_Change();
+    void sprImmovableProperty_Change();
+    void sprMovableProperty_Change();
+    void sprJewellery_Change();
+    void sprAssetInterest_Change();
+    void sprInducibleNetWealth_Change();
+    void sprScheduleOPR_Change();
 
     // The sheet of the active grid, from the pop-up menu of this screen or of its parent window.
     void preview_active_sheet();
@@ -201,18 +209,15 @@ private:
     void connect_filing_status();
     void connect_buttons();
 
-    // The change procedures of the grids: each writes its total, row by row.
-    void sprScheduleBTP_Change();
-    void sprImmovableProperty_Change();
-    void sprMovableProperty_Change();
-    void sprJewellery_Change();
-    void sprAssetInterest_Change();
-    void sprInducibleNetWealth_Change();
-    void sprScheduleOPR_Change();
     void total_other_property();
-
     void mskOriFillDate_LostFocus();
+    widgets::Grid* prepare_sheet();
 
+    // Runs one statement of a fill: see FillFromAssessee.
+    using Step = std::function<void(const std::function<void()>&)>;
+    void fill_from_master(const Step& step);
+    void fill_for_every_assessee(const Step& step);
+    void fill_from_bank(const Step& step);
     void fill_prepaid_taxes();
     void fill_immovable_property();
     void fill_movable_property();

@@ -1,0 +1,138 @@
+#include "return/ereturn.h"
+
+#include "return/windows_1252.h"
+#include "session/file_faults.h"
+#include "widgets/failure.h"
+#include "widgets/value_text.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace levora::form_ba {
+
+namespace {
+
+constexpr int columns_per_level = 2;
+
+// A file in writing, which goes away again unless it is kept.
+class FileBeside {
+public:
+    explicit FileBeside(const std::string& path) : path_(path + ".writing") {
+        descriptor_ =
+            ::open(path_.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, session::shared_file_mode);
+        if (descriptor_ < 0) session::throw_file_fault(path, errno);
+        (void)::fchmod(descriptor_, session::shared_file_mode);
+    }
+    ~FileBeside() {
+        if (descriptor_ >= 0) ::close(descriptor_);
+        if (!kept_) ::unlink(path_.c_str());
+    }
+    FileBeside(const FileBeside&) = delete;
+    FileBeside& operator=(const FileBeside&) = delete;
+
+    void write(std::string_view bytes) {
+        while (!bytes.empty()) {
+            const ssize_t written = ::write(descriptor_, bytes.data(), bytes.size());
+            if (written < 0 && errno == EINTR) continue;
+            if (written < 0) session::throw_file_fault(path_, errno);
+            bytes.remove_prefix(static_cast<std::size_t>(written));
+        }
+        if (::fsync(descriptor_) != 0) session::throw_file_fault(path_, errno);
+    }
+
+    void rename_to(const std::string& path) {
+        const int closed = ::close(descriptor_);
+        descriptor_ = -1;
+        if (closed != 0) session::throw_file_fault(path_, errno);
+        if (::rename(path_.c_str(), path.c_str()) != 0) session::throw_file_fault(path, errno);
+        kept_ = true;
+    }
+
+private:
+    std::string path_;
+    int descriptor_ = -1;
+    bool kept_ = false;
+};
+
+} // namespace
+
+std::string working_copy_path(const session::Session& session) {
+    return session.DataFolder + "ITR/WT " + number_text(session.AssesseeNo) + " " + session.CurrentFY;
+}
+
+void write_whole_file(const std::string& path, std::string_view bytes) {
+    if (path.empty()) throw Failure(error_number::bad_file_name, "Bad file name or number");
+    // A link is followed, and a file that its owner has locked against writing stays.
+    std::error_code not_there;
+    const std::filesystem::path target = std::filesystem::canonical(path, not_there);
+    const std::string place = not_there ? path : target.string();
+    if (!not_there && std::filesystem::is_directory(target)) session::throw_file_fault(path, EISDIR);
+    if (!not_there && ::access(place.c_str(), W_OK) != 0) session::throw_file_fault(path, errno);
+    FileBeside file(place);
+    file.write(bytes);
+    file.rename_to(place);
+}
+
+void eReturn::write_line(std::string_view line) {
+    text_ += line;
+    text_ += '\n';
+}
+
+void eReturn::indented(std::string_view line) {
+    if (session_.XmlIndent < 0)
+        throw Failure(error_number::invalid_call, "Invalid procedure call or argument");
+    text_.append(static_cast<std::size_t>(session_.XmlIndent), ' ');
+    write_line(line);
+}
+
+void eReturn::OpenTag(std::string_view tag) {
+    indented("<" + std::string(tag) + ">");
+    session_.XmlIndent = to_integer(session_.XmlIndent + columns_per_level);
+    PushTag(tag);
+}
+
+void eReturn::CloseTag() {
+    session_.XmlIndent = to_integer(session_.XmlIndent - columns_per_level);
+    indented("</" + PopTag() + ">");
+}
+
+void eReturn::WriteElement(std::string_view tag, std::string_view value) {
+    const std::string name(tag);
+    if (value.empty()) {
+        indented("<" + name + "/>");
+        return;
+    }
+    // Wanted: "<" and the rest pass as they are; readers of the file know "And" only.
+    std::string escaped;
+    escaped.reserve(value.size());
+    for (const char each : value) {
+        if (each == '&')
+            escaped += "And";
+        else
+            escaped += each;
+    }
+    indented("<" + name + ">" + escaped + "</" + name + ">");
+}
+
+void eReturn::PushTag(std::string_view tag) {
+    ++session_.XmlTagTop;
+    session_.XmlTagStack.resize(static_cast<std::size_t>(session_.XmlTagTop) + 1);
+    session_.XmlTagStack.back() = tag;
+}
+
+std::string eReturn::PopTag() {
+    if (session_.XmlTagTop < 0 || static_cast<std::size_t>(session_.XmlTagTop) >= session_.XmlTagStack.size())
+        throw Failure(error_number::subscript, "Subscript out of range");
+    return session_.XmlTagStack[static_cast<std::size_t>(session_.XmlTagTop--)];
+}
+
+void eReturn::save(const std::string& path) const {
+    write_whole_file(path, to_windows_1252(text_));
+}
+
+} // namespace levora::form_ba

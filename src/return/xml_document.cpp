@@ -1,0 +1,138 @@
+#include "return/xml_document.h"
+
+#include "return/windows_1252.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include <libxml/parser.h>
+#include <libxml/tree.h>
+
+namespace levora::form_ba {
+
+namespace {
+
+std::string_view view(const xmlChar* text) {
+    return text ? std::string_view(reinterpret_cast<const char*>(text)) : std::string_view();
+}
+
+bool named(const xmlNode* node, std::string_view name) {
+    if (node->type != XML_ELEMENT_NODE) return false;
+    const std::string_view prefix = node->ns ? view(node->ns->prefix) : std::string_view();
+    const std::string_view local = view(node->name);
+    if (prefix.empty()) return local == name;
+    return name.size() == prefix.size() + 1 + local.size() && name.starts_with(prefix) &&
+           name[prefix.size()] == ':' && name.ends_with(local);
+}
+
+// The next element in the order of the document, inside `top`; null behind the last.
+const xmlNode* next_below(const xmlNode* node, const xmlNode* top) {
+    if (node->children) return node->children;
+    while (node != top && !node->next)
+        node = node->parent;
+    return node == top ? nullptr : node->next;
+}
+
+bool too_deep(const xmlNode* root) {
+    int depth = 0;
+    for (const xmlNode* node = root; node;) {
+        if (node->children) {
+            if (++depth > deepest_element) return true;
+            node = node->children;
+            continue;
+        }
+        while (node != root && !node->next) {
+            node = node->parent;
+            --depth;
+        }
+        node = node == root ? nullptr : node->next;
+    }
+    return false;
+}
+
+struct FreeContext {
+    void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
+};
+
+} // namespace
+
+void XmlDocument::Free::operator()(_xmlDoc* document) const {
+    xmlFreeDoc(document);
+}
+
+std::optional<XmlDocument> XmlDocument::parse(std::string_view bytes) {
+    if (bytes.empty() || bytes.size() > largest_document) return std::nullopt;
+    std::string converted;
+    const bool utf16 = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
+    if (!utf16 && !is_utf8(bytes)) {
+        converted = from_windows_1252(bytes);
+        bytes = converted;
+    }
+    const std::unique_ptr<xmlParserCtxt, FreeContext> context(xmlNewParserCtxt());
+    if (!context) return std::nullopt;
+    // Entities stay unexpanded and no other file is read, whatever the document asks for.
+    constexpr int options = XML_PARSE_NONET | XML_PARSE_BIG_LINES | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
+    XmlDocument result;
+    result.document_.reset(xmlCtxtReadMemory(context.get(), bytes.data(), static_cast<int>(bytes.size()),
+                                             nullptr, utf16 ? nullptr : "UTF-8", options));
+    if (!result.document_ || !context->wellFormed || !context->nsWellFormed) return std::nullopt;
+    if (result.document_->intSubset || result.document_->extSubset) return std::nullopt;
+    const xmlNode* const root = xmlDocGetRootElement(result.document_.get());
+    if (!root || too_deep(root)) return std::nullopt;
+    return result;
+}
+
+std::optional<XmlDocument> XmlDocument::load(const std::string& path) {
+    std::error_code fault;
+    const std::uintmax_t size = std::filesystem::file_size(path, fault);
+    if (fault || size > largest_document) return std::nullopt;
+    std::ifstream file(path, std::ios::binary);
+    if (!file) return std::nullopt;
+    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    return parse(bytes);
+}
+
+XmlNode XmlDocument::root() const {
+    return XmlNode(xmlDocGetRootElement(document_.get()));
+}
+
+std::string XmlNode::text() const {
+    const xmlNode* const only = node_->children;
+    if (!only) return {};
+    if (!only->next && only->type == XML_TEXT_NODE) return std::string(view(only->content));
+    xmlChar* const content = xmlNodeGetContent(node_);
+    std::string text(view(content));
+    xmlFree(content);
+    return text;
+}
+
+bool XmlNode::is_named(std::string_view name) const {
+    return named(node_, name);
+}
+
+std::vector<XmlNode> XmlNode::children(std::string_view name) const {
+    std::vector<XmlNode> found;
+    for (const xmlNode* node = node_->children; node; node = node->next)
+        if (named(node, name)) found.emplace_back(node);
+    return found;
+}
+
+std::optional<XmlNode> XmlNode::child(std::string_view name) const {
+    for (const xmlNode* node = node_->children; node; node = node->next)
+        if (named(node, name)) return XmlNode(node);
+    return std::nullopt;
+}
+
+std::optional<XmlNode> XmlNode::descendant(std::string_view name) const {
+    for (const xmlNode* node = next_below(node_, node_); node; node = next_below(node, node_))
+        if (named(node, name)) return XmlNode(node);
+    return std::nullopt;
+}
+
+std::string GetNodeText(const XmlNode& node, std::string_view name, std::string_view otherwise) {
+    const std::optional<XmlNode> found = node.descendant(name);
+    return found ? found->text() : std::string(otherwise);
+}
+
+} // namespace levora::form_ba
