@@ -48,6 +48,7 @@ constexpr std::array<RentItem, rent_rows> rent_items{{
 
 constexpr unsigned white_rgb = 0xFFFFFF;
 constexpr int label_column = 1;
+constexpr double label_width = 54; // the longest label in full
 constexpr int amount_column = 2;
 constexpr int two_months = 1; // position in the list
 
@@ -83,6 +84,7 @@ AnnualRentPanel::AnnualRentPanel(widgets::Form& form, session::Session& session,
 void AnnualRentPanel::design_grid() {
     sprAnnualRent.set_header(label_column, "Details of Annual Rent");
     sprAnnualRent.set_header(amount_column, "Amount");
+    sprAnnualRent.set_column_width(label_column, label_width);
     sprAnnualRent.set_column_locked(label_column, true);
     sprAnnualRent.set_column_backcolor(label_column, widgets::grey_rgb);
     sprAnnualRent.design_column(amount_column, widgets::number_cell(-99999999, 9999999999, 0, true));

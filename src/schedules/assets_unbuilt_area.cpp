@@ -42,6 +42,7 @@ constexpr std::array stored_areas{
     StoredArea{AreaRow::calculated, "CalculatedPercentage"},
 };
 constexpr int label_column = 1;
+constexpr double label_width = 58; // the longest label in full
 constexpr int area_column = 2;
 
 // Rule 6 of Schedule III: the share of the plot that may lie open, by city.
@@ -95,6 +96,7 @@ UnbuiltAreaPanel::UnbuiltAreaPanel(widgets::Form& form, session::Session& sessio
 void UnbuiltAreaPanel::design_grid() {
     sprUnbuiltArea.set_header(label_column, "Plot Area Details");
     sprUnbuiltArea.set_header(area_column, "Area");
+    sprUnbuiltArea.set_column_width(label_column, label_width);
     sprUnbuiltArea.set_column_locked(label_column, true);
     sprUnbuiltArea.set_column_backcolor(label_column, widgets::grey_rgb);
     for (int row = 1; row <= sprUnbuiltArea.rows(); ++row)

@@ -96,6 +96,7 @@ constexpr std::array label_notes{
               "Applicable only in case of property built on leasehold land. "},
 };
 
+constexpr double label_width = 50; // the longest label in full
 constexpr int debt_characters = 60;
 constexpr Date first_report{1990, 1, 1};
 constexpr Date last_report{2100, 12, 31};
@@ -127,6 +128,7 @@ void design_property_grid(widgets::Grid& sprImmovable) {
     sprImmovable.set_header(1, "Property Details");
     for (int column_number = first_property_column; column_number <= sprImmovable.columns(); ++column_number)
         sprImmovable.set_header(column_number, number_text(column_number - 1));
+    sprImmovable.set_column_width(1, label_width);
     sprImmovable.set_column_locked(1, true);
     sprImmovable.set_column_backcolor(1, widgets::grey_rgb);
 

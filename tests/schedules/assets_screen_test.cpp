@@ -161,6 +161,20 @@ TEST_F(AssetsScreenTest, BusinessAssetsComesUpWithoutASave) {
     EXPECT_EQ(details(), "");
 }
 
+TEST_F(AssetsScreenTest, ShownAfreshItWorksForTheModeOfTheFlagsNow) {
+    own_properties("1");
+    properties().type(2, PropertyRow::annual_value, "100000");
+    assets().cmdOK.click();
+    session.BusinessAssetFlag = true;
+    session.AssetRowName = "nothing"; // makes the screen, for the business rows, and leaves it hidden
+    open_assets_for_row(session, business_parent);
+    EXPECT_EQ(assets().txtTotalNetAmount.text(), "0");
+    session.BusinessAssetFlag = false;
+    show_assets_afresh(session);
+    EXPECT_EQ(assets().txtTotalNetAmount.text(), "850000");
+    EXPECT_TRUE(assets().cmdBusinessAsset.visible());
+}
+
 TEST_F(AssetsScreenTest, PropertiesComeBackAsStoredEachModeItsOwn) {
     own_properties("2");
     widgets::Grid* grid = &properties();
