@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include "computation/wealth_sheet.h"
 #include "schedules/assets_screen.h"
 #include "widgets/value_text.h"
 
@@ -28,6 +29,7 @@ template <class T> std::unique_ptr<widgets::Form> make_screen(session::Session& 
 }
 
 constexpr std::array screens{
+    ScreenEntry{"frmWealthMain", make_screen<computation::frmWealthMain>},
     ScreenEntry{"frmImmovable", make_screen<schedules::frmImmovable>},
 };
 

@@ -19,7 +19,7 @@ std::string name_of(Icon icon);                              // "critical", ... 
 
 struct MessageBox {
     std::string text;
-    std::string title;
+    std::string title = {};
     Icon icon = Icon::none;
     std::vector<Answer> buttons = {Answer::ok};
 };
