@@ -1,6 +1,9 @@
 #include "program/program.h"
 
 #include "computation/wealth_sheet.h"
+#include "reports/preview_screens.h"
+#include "reports/print_dialog.h"
+#include "reports/report_source.h"
 #include "schedules/assets_screen.h"
 #include "widgets/value_text.h"
 
@@ -31,6 +34,10 @@ template <class T> std::unique_ptr<widgets::Form> make_screen(session::Session& 
 constexpr std::array screens{
     ScreenEntry{"frmWealthMain", make_screen<computation::frmWealthMain>},
     ScreenEntry{"frmImmovable", make_screen<schedules::frmImmovable>},
+    ScreenEntry{"frmPrint", make_screen<reports::frmPrint>},
+    ScreenEntry{"frmRepPreview", make_screen<reports::frmRepPreview>},
+    ScreenEntry{"frmSprPreview", make_screen<reports::frmSprPreview>},
+    ScreenEntry{"frmReportAvi", make_screen<reports::frmReportAvi>},
 };
 
 } // namespace
@@ -39,6 +46,7 @@ Program::Program(session::Surroundings surroundings) : session_(std::move(surrou
     for (const ScreenEntry& screen : screens)
         session_.screens.define(std::string(screen.name),
                                 [this, make = screen.make] { return make(session_); });
+    reports::connect_reports(session_);
 }
 
 void Program::start() {

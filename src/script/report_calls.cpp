@@ -1,6 +1,7 @@
 #include "script/report_calls.h"
 
 #include "document/report.h"
+#include "reports/preview_screens.h"
 #include "script/lua_call.h"
 #include "script/script_host.h"
 
@@ -104,22 +105,9 @@ int printed(lua_State* state) {
 } // namespace
 
 void push_previewed_report(lua_State* state) {
-    const ScriptHost& host = host_of(state);
-    const session::Session* session = host.session();
-    if (!session || !host.find_screen("frmRepPreview")) {
-        push_report(state, nullptr);
-        return;
-    }
-    switch (session->PreviewSource) {
-    case 1:
-        return push_report(state, session->ChallanReport);
-    case 2:
-        return push_report(state, session->FormBBReport);
-    case 4:
-        return push_report(state, session->WealthReport);
-    default:
-        return push_report(state, nullptr);
-    }
+    const auto* preview =
+        static_cast<const reports::frmRepPreview*>(host_of(state).find_screen("frmRepPreview"));
+    push_report(state, preview ? preview->report() : nullptr);
 }
 
 void open_report_calls(lua_State* state) {
