@@ -1,5 +1,9 @@
 #include "schedules/assets_screen.h"
 
+#include "session/grid_sheet.h"
+
+#include <string_view>
+
 namespace levora::schedules {
 
 void frmImmovable::connect_menus() {
@@ -12,18 +16,16 @@ void frmImmovable::connect_menus() {
     mnuDeleteColumn.on_click = [this] { mnuDeleteColumn_Click(); };
     mnuInsertRow.on_click = [this] {
         // Wanted: the Insert key alone, which no grid of this screen answers without Ctrl.
-        if (widgets::Grid* grid = active_grid()) grid->press_key("Insert");
+        if (widgets::Grid* grid = session::active_grid(*this)) grid->press_key("Insert");
     };
     mnuDeleteRow.on_click = [this] {
         // Wanted: these five characters, not the Escape key; Escape would ask for the deletion of rows.
-        if (widgets::Grid* grid = active_grid())
+        if (widgets::Grid* grid = session::active_grid(*this))
             for (const char32_t character : std::u32string_view(U"(ESC)"))
                 grid->type_character(character);
     };
-}
-
-widgets::Grid* frmImmovable::active_grid() const {
-    return dynamic_cast<widgets::Grid*>(active_control());
+    mnuPreview.on_click = [this] { sheet_of_active_grid(session::SheetUse::preview); };
+    mnuPrint.on_click = [this] { sheet_of_active_grid(session::SheetUse::print); };
 }
 
 } // namespace levora::schedules

@@ -1,6 +1,7 @@
 #include "schedules/assets_screen.h"
 
 #include "schedules/asset_opening.h"
+#include "schedules/named_control.h"
 #include "session/common_services.h"
 
 namespace levora::schedules {
@@ -9,17 +10,6 @@ using session::Attempt;
 using session::procedure;
 using session::RowSet;
 using session::RowSetUse;
-
-namespace {
-
-// A control of another screen, by its name; that screen is loaded.
-template <class T> T& control_of(widgets::Form& form, std::string_view name) {
-    auto* control = dynamic_cast<T*>(form.find(name));
-    if (control == nullptr) throw Failure(424, form.name() + " has no " + std::string(name));
-    return *control;
-}
-
-} // namespace
 
 frmImmovable::frmImmovable(session::Session& session)
     : Screen(session, "frmImmovable", "Details of Wealth Tax"),

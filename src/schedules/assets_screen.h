@@ -5,6 +5,7 @@
 #include "schedules/assets_jewellery.h"
 #include "schedules/assets_movable.h"
 #include "schedules/assets_urban_land.h"
+#include "session/grid_sheet.h"
 #include "session/session_state.h"
 #include "widgets/fields.h"
 
@@ -56,6 +57,7 @@ public:
     widgets::MenuItem mnuPrint;
 
     void Form_Load() override;
+    void Form_Unload() override;
 
     // The schedule of a tab.
     [[nodiscard]] AssetSchedule& schedule(int tab);
@@ -67,14 +69,17 @@ public:
     // was touched last; 0 when none was.
     int ResizeSpr(widgets::Grid& spr, int new_count, int& old_count);
 
+    // The last row of sprUrbanLand while its sheet is printed or previewed, with the tab's three totals.
+    // The session's SheetGridName tells that it stands there, and keeps the grid from recomputing.
+    void add_sheet_total_row();
+    void remove_sheet_total_row();
+
 private:
     void connect_summary();
     void connect_counts();
     void connect_menus();
     void connect_buttons();
     [[nodiscard]] bool in_main_mode() const;
-    // The grid that a menu item works on: the active control; null when it is no grid.
-    [[nodiscard]] widgets::Grid* active_grid() const;
 
     void load_asset_details(const session::Attempt& attempt);
     void save_asset_details(const session::Attempt& attempt);
@@ -84,6 +89,7 @@ private:
     void cboNumberOfJewellery_Change();
     void mnuAddColumn_Click();
     void mnuDeleteColumn_Click();
+    void sheet_of_active_grid(session::SheetUse use);
 
     int property_count_ = 0;  // applied last
     int jewellery_count_ = 0; //

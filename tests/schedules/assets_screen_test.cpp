@@ -223,6 +223,48 @@ TEST_F(AssetsScreenTest, LoadLeavesNullsAndAmountsOfZeroOrLessEmpty) {
     EXPECT_EQ(assets().txtTotalNetAmount.text(), "1200");
 }
 
+TEST_F(AssetsScreenTest, LandSheetHasATotalRowOnlyThePreviewKeepsItAndCarriesTheTitle) {
+    static_cast<SheetStandIn&>(screens.load("frmWealthMain")).txtAssesseeName.set_text("A. Client");
+    static_cast<SheetStandIn&>(screens.load("frmWealthMain")).cboFY.set_text("2014-2015");
+    widgets::Grid& land = assets().urban_land.sprUrbanLand;
+    land.tag = "Land";
+    assets().urban_land.txtNetValuation.set_text("900");
+    assets().urban_land.txtNetDebtsOwed.set_text("200");
+    assets().urban_land.txtNetAmount.set_text("700");
+    const int rows = land.rows();
+    EXPECT_EQ(land.right_click(), &assets().mnuConxtRow);
+
+    EXPECT_TRUE(assets().mnuPrint.click());
+    EXPECT_EQ(land.rows(), rows);
+    EXPECT_EQ(session.SheetGridName, "");
+    assets().mnuPreview.click();
+    assets().mnuPreview.click(); // one total row is enough
+    EXPECT_EQ(land.rows(), rows + 1);
+    EXPECT_EQ(session.SheetGridName, "sprUrbanLand");
+    std::string shown;
+    for (const auto& sheet : desk.take_sheets()) {
+        const auto& last = sheet.cells.back();
+        shown += (sheet.preview ? "preview [" : "print [") + sheet.header + "] " + last[0] + "|" + last[1] +
+                 "|" + last[2] + "|" + last[3] + "|" + last[4] + "\n";
+    }
+    const std::string title = "/n /n Assessee Name : A. Client/n /n A. Y.  : 2014-2015/n /nLand/n";
+    EXPECT_EQ(shown, "print [] Total||900|200|700\npreview [" + title + "] Total||900|200|700\npreview [" +
+                         title + "] Total||900|200|700\n");
+    screens.unload("frmImmovable");
+    EXPECT_EQ(session.SheetGridName, "") << "the next grid recomputes";
+}
+
+TEST_F(AssetsScreenTest, RowMenuSendsKeysThatDeleteNothing) {
+    widgets::Grid& land = assets().urban_land.sprUrbanLand;
+    land.type(1, 1, "Plot");
+    land.right_click();
+    assets().mnuInsertRow.click();
+    assets().mnuDeleteRow.click(); // not the Escape key
+    EXPECT_EQ(land.text(1, 1), "Plot");
+    EXPECT_EQ(land.rows(), 12);
+    EXPECT_TRUE(desk.take_messages().empty());
+}
+
 TEST_F(AssetsScreenTest, AFailingSaveIsReportedUnderItsNameAndEndsWhenDismissed) {
     own_properties("1");
     store("Drop Table [Asset Details]");
