@@ -73,14 +73,14 @@ Value stored_value(const ColumnRule& rule, const Value& value) {
 std::int64_t next_counter(OpenStore& store, const std::string& table, const std::string& column) {
     const PreparedStatement highest =
         store.prepare("SELECT max(coalesce((SELECT max(" + as_name(column) + ") FROM " + as_name(table) +
-                      "), 0), coalesce((SELECT seq FROM sqlite_sequence WHERE name = " + quoted(table) +
+                      "), 0), coalesce((SELECT seq FROM sqlite_sequence WHERE name = " + as_literal(table) +
                       " COLLATE NOCASE), 0)) + 1");
     store.step(highest.get());
     return sqlite3_column_int64(highest.get(), 0);
 }
 
 void use_up_counter(OpenStore& store, const std::string& table, std::int64_t number) {
-    const std::string name = quoted(table);
+    const std::string name = as_literal(table);
     const std::string text = number_text(static_cast<double>(number));
     store.run("UPDATE sqlite_sequence SET seq = " + text + " WHERE name = " + name + " COLLATE NOCASE");
     if (sqlite3_changes(store.database()) == 0)

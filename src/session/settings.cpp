@@ -1,13 +1,14 @@
 #include "session/settings.h"
 
-#include "session/file_faults.h"
 #include "session/settings_text.h"
+#include "session/whole_files.h"
+#include "widgets/failure.h"
 #include "widgets/value_text.h"
 
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
-#include <vector>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -34,43 +35,6 @@ private:
     int number_;
 };
 
-bool read_all(int descriptor, std::string& text) {
-    std::vector<char> buffer(1 << 16);
-    for (;;) {
-        const ssize_t count = ::read(descriptor, buffer.data(), buffer.size());
-        if (count == 0) return true;
-        if (count < 0 && errno == EINTR) continue;
-        if (count < 0) return false;
-        text.append(buffer.data(), static_cast<std::size_t>(count));
-    }
-}
-
-bool write_all(int descriptor, std::string_view text) {
-    while (!text.empty()) {
-        const ssize_t count = ::write(descriptor, text.data(), text.size());
-        if (count < 0 && errno == EINTR) continue;
-        if (count <= 0) return false;
-        text.remove_prefix(static_cast<std::size_t>(count));
-    }
-    return true;
-}
-
-// The whole new file stands beside the old one, on the disk, before it takes its place.
-bool replace_file(const std::string& path, const std::string& text, mode_t mode) {
-    std::string beside = path + ".XXXXXX";
-    const Descriptor file(::mkostemp(beside.data(), O_CLOEXEC));
-    if (!file.is_open()) return false;
-    if (!write_all(file.get(), text) || ::fchmod(file.get(), mode) != 0 || ::fsync(file.get()) != 0 ||
-        ::rename(beside.c_str(), path.c_str()) != 0) {
-        ::unlink(beside.c_str());
-        return false;
-    }
-    const std::string folder = std::filesystem::path(path).parent_path().string();
-    const Descriptor directory(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (directory.is_open()) ::fsync(directory.get());
-    return true;
-}
-
 // A link stays a link: the file behind it is written.
 std::string real_path(const std::string& path) {
     std::error_code failed;
@@ -94,10 +58,15 @@ Stamp stamp_of(const std::string& path) {
             static_cast<long long>(found.st_mtim.tv_sec) * 1'000'000'000 + found.st_mtim.tv_nsec};
 }
 
-std::string read_text(const std::string& path, std::string& text) {
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    if (!file.is_open()) return errno == ENOENT ? std::string() : path + ": " + reason_of(errno);
-    return read_all(file.get(), text) ? std::string() : path + ": " + reason_of(errno);
+// The text of the file and why it could not be read; a file that is not there is an empty one.
+std::pair<std::string, std::string> read_text(const std::string& path) {
+    std::error_code ignored;
+    if (!std::filesystem::exists(path, ignored)) return {};
+    try {
+        return {read_whole_file(path), ""};
+    } catch (const Failure& failure) {
+        return {"", failure.what()};
+    }
 }
 
 } // namespace
@@ -124,8 +93,7 @@ std::string Settings::default_path() {
 const SettingsContent& Settings::content() const {
     const Stamp stamp = stamp_of(path_);
     if (cache_->filled && cache_->stamp == stamp) return cache_->content;
-    std::string text;
-    const std::string fault = read_text(path_, text);
+    const auto [text, fault] = read_text(path_);
     cache_->content = fault.empty() ? read_settings(text, path_) : SettingsContent{{}, fault};
     cache_->stamp = stamp;
     cache_->filled = true;
@@ -162,15 +130,19 @@ bool Settings::change(const std::string& key, const std::string& name, const std
     // Read, change and replace are one turn, so that no other program's write is lost.
     const Descriptor lock(::open((path + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
     if (!lock.is_open() || ::flock(lock.get(), LOCK_EX) != 0) return false;
-    std::string text;
-    if (!read_text(path, text).empty()) return false;
+    const auto [text, fault] = read_text(path);
+    if (!fault.empty()) return false;
     const auto changed = with_setting(text, key, name, value);
     if (!changed) return false;
     struct stat found {};
     const mode_t mode = ::stat(path.c_str(), &found) == 0 ? (found.st_mode & 07777) : 0600;
-    const bool replaced = *changed == text || replace_file(path, *changed, mode);
     cache_->filled = false;
-    return replaced;
+    try {
+        if (*changed != text) replace_whole_file(path, *changed, mode);
+    } catch (const Failure&) {
+        return false;
+    }
+    return true;
 }
 
 void Settings::hold(const std::string& key, const std::string& name, const Setting& value) {

@@ -136,7 +136,7 @@ std::optional<Date> month_first_date(std::string_view text) {
 std::string date_literal(std::string_view token) {
     const auto date = month_first_date(token.substr(1, token.size() - 2));
     if (!date) throw Failure(syntax_error, "Syntax error in date in statement: " + std::string(token));
-    return quoted(iso_date(*date));
+    return as_literal(iso_date(*date));
 }
 
 std::string file_of(std::string_view token) {
@@ -243,7 +243,7 @@ std::string as_name(std::string_view name) {
     return result + '"';
 }
 
-std::string quoted(std::string_view text) {
+std::string as_literal(std::string_view text) {
     std::string result = "'";
     for (const char c : text) {
         if (c == '\'') result += '\'';

@@ -40,7 +40,7 @@ StatementText translate(std::string_view statement);
 // A name as a statement can have it, whatever signs are in it.
 std::string as_name(std::string_view name);
 // 'O''Neil'
-std::string quoted(std::string_view text);
+std::string as_literal(std::string_view text);
 // The path of the SQLite file that a told store file stands for: FOLDER\LVWTax.mdb is FOLDER/LVWTax.db.
 std::string store_file(std::string_view told);
 // The file told by the "Data Source" of a connect string; empty when there is none.

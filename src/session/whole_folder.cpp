@@ -92,16 +92,21 @@ void WholeFolder::commit() {
     state_->other_gates.clear();
 }
 
+void make_folder(const std::string& folder) {
+    struct stat found {};
+    if (::stat(folder.c_str(), &found) == 0 && S_ISDIR(found.st_mode)) return;
+    std::error_code failed;
+    std::filesystem::create_directories(folder, failed);
+    if (failed) throw_file_fault(folder, failed.value());
+    (void)::chmod(folder.c_str(), shared_folder_mode);
+}
+
 void create_data_folder(const std::string& folder) {
     struct stat found {};
     for (const Store each : all_stores)
         if (::lstat(store_path(folder, each).c_str(), &found) == 0)
             throw Failure(error_number::path_access, store_path(folder, each) + ": there is a store already");
-    const bool is_new = ::stat(folder.c_str(), &found) != 0;
-    std::error_code failed;
-    std::filesystem::create_directories(folder, failed);
-    if (failed) throw_file_fault(folder, failed.value());
-    if (is_new) (void)::chmod(folder.c_str(), shared_folder_mode);
+    make_folder(folder);
     std::vector<std::string> made;
     try {
         for (const Store each : all_stores) {

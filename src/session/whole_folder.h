@@ -34,6 +34,8 @@ private:
     std::unique_ptr<State> state_;
 };
 
+// Makes a folder for the owner and group alone, where it is not there.
+void make_folder(const std::string& folder);
 // Makes the folder, where it is not there, with the four empty stores: all of them or, with a
 // Failure, none. A store that is there already is left alone and named.
 void create_data_folder(const std::string& folder);

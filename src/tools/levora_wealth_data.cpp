@@ -1,6 +1,10 @@
+#include "session/client_file.h"
+#include "session/store_backup.h"
+#include "session/store_check.h"
 #include "session/whole_folder.h"
 #include "tools/sample_clients.h"
 #include "widgets/failure.h"
+#include "widgets/value_text.h"
 
 #include <cstdio>
 #include <exception>
@@ -31,6 +35,44 @@ int sample(const Arguments& arguments) {
     return ok;
 }
 
+int check(const Arguments& arguments) {
+    const std::vector<std::string> faults = levora::session::find_faults(arguments[0]);
+    for (const std::string& each : faults)
+        say(each);
+    say(arguments[0] + ": " + (faults.empty() ? "no fault found" : "faults found"));
+    return faults.empty() ? ok : failed;
+}
+
+int backup(const Arguments& arguments) {
+    levora::session::back_up_folder(arguments[0], arguments[1]);
+    say(arguments[1] + ": " + arguments[0] + " as it stands now");
+    return ok;
+}
+
+int restore(const Arguments& arguments) {
+    levora::session::restore_folder(arguments[0], arguments[1]);
+    say(arguments[1] + ": restored from " + arguments[0]);
+    return ok;
+}
+
+int export_client(const Arguments& arguments) {
+    const std::string& number = arguments[1];
+    if (number.find_first_not_of("0123456789") != std::string::npos || number.empty()) {
+        std::fprintf(stderr, "levora-wealth-data: not an assessee number: \"%s\"\n", number.c_str());
+        return wrong_call;
+    }
+    levora::session::export_client(arguments[0], static_cast<std::int64_t>(levora::val(number)),
+                                   arguments[2]);
+    say(arguments[2] + ": assessee " + number);
+    return ok;
+}
+
+int import_client(const Arguments& arguments) {
+    const std::int64_t number = levora::session::import_client(arguments[0], arguments[1]);
+    say(arguments[1] + ": assessee " + levora::number_text(static_cast<double>(number)) + " brought in");
+    return ok;
+}
+
 struct Command {
     std::string_view name;
     std::string_view arguments;
@@ -42,6 +84,11 @@ struct Command {
 constexpr Command commands[] = {
     {"create", "FOLDER", 1, "make an empty data folder with its four stores", create},
     {"sample", "FOLDER", 1, "add the sample clients to a data folder", sample},
+    {"check", "FOLDER", 1, "look for faults in stores, tables, columns, values and keys", check},
+    {"backup", "FOLDER FILE", 2, "copy a whole data folder into one file, while programs run", backup},
+    {"restore", "FILE FOLDER", 2, "make the data folder of a backup again", restore},
+    {"export", "FOLDER ASSESSEENO FILE", 3, "copy one client into a file", export_client},
+    {"import", "FILE FOLDER", 2, "bring a client from such a file into a data folder", import_client},
 };
 
 void print_help(std::FILE* stream) {

@@ -1,0 +1,124 @@
+#include "session/parts_file.h"
+
+#include "session/file_faults.h"
+#include "session/whole_files.h"
+#include "session/whole_folder.h"
+#include "widgets/failure.h"
+#include "widgets/value_text.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace levora::session {
+
+namespace {
+
+const std::string copies_folder = "ITR";
+
+std::string mark_of(PartsFile::Kind kind) {
+    return kind == PartsFile::Kind::backup ? "Levora Wealth Tax backup 1" : "Levora Wealth Tax client 1";
+}
+
+bool is_copy_name(const std::string& name) {
+    return name.starts_with(copies_folder + "/WT ") &&
+           name.find('/', copies_folder.size() + 1) == std::string::npos;
+}
+
+} // namespace
+
+PartsFile::PartsFile(std::string path, Kind kind) : path_(std::move(path)), beside_(path_ + ".part") {
+    struct stat found {};
+    if (::lstat(path_.c_str(), &found) == 0) throw_file_fault(path_, EEXIST);
+    const int descriptor = ::open(beside_.c_str(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, shared_file_mode);
+    if (descriptor < 0) throw_file_fault(beside_, errno);
+    (void)::fchmod(descriptor, shared_file_mode);
+    ::close(descriptor);
+    store_ = std::make_unique<OpenStore>(beside_);
+    store_->run("BEGIN");
+    store_->run("CREATE TABLE mark (text TEXT)");
+    store_->run("INSERT INTO mark VALUES (" + as_literal(mark_of(kind)) + ")");
+    store_->run("CREATE TABLE part (name TEXT PRIMARY KEY, content BLOB NOT NULL)");
+}
+
+PartsFile PartsFile::open(const std::string& path, Kind kind) {
+    PartsFile result;
+    result.path_ = path;
+    result.store_ = std::make_unique<OpenStore>(path);
+    std::string mark;
+    try {
+        const PreparedStatement select = result.store_->prepare("SELECT text FROM mark");
+        if (result.store_->step(select.get())) mark = column_value(select.get(), 0).text();
+    } catch (const Failure&) {
+        mark.clear(); // a store of another kind has no such table
+    }
+    if (mark != mark_of(kind))
+        throw Failure(error_number::path_access,
+                      path + ": this is no file of the kind \"" + mark_of(kind) + "\"");
+    return result;
+}
+
+PartsFile::~PartsFile() {
+    store_.reset();
+    if (!beside_.empty()) ::unlink(beside_.c_str());
+}
+
+void PartsFile::put(const std::string& name, const std::string& content) {
+    const PreparedStatement insert = store_->prepare("INSERT INTO part VALUES (?, CAST(? AS BLOB))");
+    bind_value(*store_, insert.get(), 1, name);
+    bind_value(*store_, insert.get(), 2, content);
+    store_->step(insert.get());
+}
+
+std::map<std::string, std::string> PartsFile::parts() {
+    std::map<std::string, std::string> result;
+    const PreparedStatement select = store_->prepare("SELECT name, content FROM part");
+    while (store_->step(select.get()))
+        result.emplace(column_value(select.get(), 0).text(), column_value(select.get(), 1).text());
+    return result;
+}
+
+void PartsFile::finish() {
+    store_->run("COMMIT");
+    store_.reset();
+    if (::link(beside_.c_str(), path_.c_str()) != 0) throw_file_fault(path_, errno);
+}
+
+std::map<std::string, std::string> working_copies(const std::string& folder, const std::string& start) {
+    std::map<std::string, std::string> parts;
+    std::error_code none;
+    for (const auto& each :
+         std::filesystem::directory_iterator(std::filesystem::path(folder) / copies_folder, none)) {
+        const std::string name = each.path().filename().string();
+        if (name.starts_with(start) && each.is_regular_file(none))
+            parts.emplace(copies_folder + "/" + name, read_whole_file(each.path().string()));
+    }
+    return parts;
+}
+
+void write_working_copies(const std::string& folder, const std::map<std::string, std::string>& parts) {
+    const std::filesystem::path below = std::filesystem::path(folder) / copies_folder;
+    std::map<std::string, std::string> written;
+    try {
+        for (const auto& [name, content] : parts) {
+            if (!is_copy_name(name)) continue;
+            make_folder(below.string());
+            write_new_file((std::filesystem::path(folder) / name).string(), content, shared_file_mode);
+            written.emplace(name, content);
+        }
+    } catch (const Failure&) {
+        remove_working_copies(folder, written);
+        throw;
+    }
+}
+
+void remove_working_copies(const std::string& folder, const std::map<std::string, std::string>& parts) {
+    for (const auto& [name, content] : parts)
+        if (is_copy_name(name)) ::unlink((std::filesystem::path(folder) / name).c_str());
+}
+
+} // namespace levora::session

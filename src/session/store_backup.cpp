@@ -1,0 +1,100 @@
+#include "session/store_backup.h"
+
+#include "session/file_faults.h"
+#include "session/parts_file.h"
+#include "session/store_engine.h"
+#include "session/whole_files.h"
+#include "session/whole_folder.h"
+#include "widgets/failure.h"
+
+#include <filesystem>
+#include <list>
+#include <map>
+#include <vector>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace levora::session {
+
+namespace {
+
+struct FreeImage {
+    void operator()(unsigned char* image) const { sqlite3_free(image); }
+};
+
+// The bytes of a store's file, as a copy of it would have them at this moment.
+std::string image_of(OpenStore& store) {
+    sqlite3_int64 size = 0;
+    const std::unique_ptr<unsigned char, FreeImage> image(
+        sqlite3_serialize(store.database(), "main", &size, 0));
+    if (!image) throw Failure(SQLITE_NOMEM, store.file() + ": too large to be held in memory");
+    return {reinterpret_cast<const char*>(image.get()), static_cast<std::size_t>(size)};
+}
+
+void check_image(const std::string& name, const std::string& image) {
+    sqlite3* database = nullptr;
+    sqlite3_open(":memory:", &database);
+    const std::unique_ptr<sqlite3, CloseDatabase> closing(database);
+    std::vector<unsigned char> bytes(image.begin(), image.end());
+    std::string verdict;
+    const auto size = static_cast<sqlite3_int64>(bytes.size());
+    if (sqlite3_deserialize(database, "main", bytes.data(), size, size, SQLITE_DESERIALIZE_READONLY) ==
+        SQLITE_OK)
+        sqlite3_exec(
+            database, "PRAGMA integrity_check(1)",
+            [](void* text, int, char** values, char**) {
+                *static_cast<std::string*>(text) = values[0] ? values[0] : "";
+                return 0;
+            },
+            &verdict, nullptr);
+    if (verdict != "ok") throw Failure(error_number::path_access, "the backup of " + name + " is damaged");
+}
+
+} // namespace
+
+void back_up_folder(const std::string& folder, const std::string& file) {
+    PartsFile backup(file, PartsFile::Kind::backup);
+    {
+        const WholeFolder turn(folder); // nobody writes while the copies are taken
+        for (const Store each : all_stores) {
+            OpenStore store(store_path(folder, each));
+            backup.put(std::filesystem::path(store.file()).filename().string(), image_of(store));
+        }
+        for (const auto& [name, content] : working_copies(folder))
+            backup.put(name, content);
+    }
+    backup.finish();
+}
+
+void restore_folder(const std::string& file, const std::string& folder) {
+    const std::map<std::string, std::string> parts = PartsFile::open(file, PartsFile::Kind::backup).parts();
+    std::map<std::string, const std::string*> images;
+    struct stat found {};
+    for (const Store each : all_stores) {
+        const std::string path = store_path(folder, each);
+        const auto part = parts.find(std::filesystem::path(path).filename().string());
+        if (part == parts.end())
+            throw Failure(error_number::path_access, file + ": " + path + " is not in it");
+        check_image(part->first, part->second);
+        if (::lstat(path.c_str(), &found) == 0)
+            throw Failure(error_number::path_access, path + ": there is a store already");
+        images.emplace(path, &part->second);
+    }
+    make_folder(folder);
+    std::vector<std::string> made;
+    write_working_copies(folder, parts);
+    try {
+        for (const auto& [path, image] : images) {
+            write_new_file(path, *image, shared_file_mode);
+            made.push_back(path);
+        }
+    } catch (const Failure&) {
+        for (const std::string& each : made)
+            ::unlink(each.c_str());
+        remove_working_copies(folder, parts);
+        throw;
+    }
+}
+
+} // namespace levora::session

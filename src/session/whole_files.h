@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include <sys/types.h>
+
+namespace levora::session {
+
+// A file's whole content; throws what the machine says of it.
+std::string read_whole_file(const std::string& path);
+// The whole content stands beside the old file, on the disk, before it takes its place: a kill or a
+// power cut leaves the old file or the new one. Throws what the machine says.
+void replace_whole_file(const std::string& path, std::string_view content, mode_t mode);
+// The same, but never over a file that is there (75).
+void write_new_file(const std::string& path, std::string_view content, mode_t mode);
+
+} // namespace levora::session

@@ -1,0 +1,162 @@
+#include "session/client_file.h"
+#include "session/data_folder.h"
+#include "session/store_backup.h"
+#include "session/store_check.h"
+#include "session/whole_files.h"
+#include "session/whole_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include <sqlite3.h>
+
+namespace levora::session {
+namespace {
+
+using testing::DataFolder;
+using testing::failure_of;
+
+class FolderCareTest : public ::testing::Test {
+protected:
+    FolderCareTest() {
+        folder.run(Store::assessee,
+                   "INSERT INTO AssesseeInfo (AssesseeNo, Assessee_Name) VALUES (17, 'A'), (18, 'B')");
+        folder.run(Store::tax,
+                   "INSERT INTO Enclosure (AssesseeNo, FY, Description) VALUES (17, '2014-2015', 'of A'), "
+                   "(18, '2014-2015', 'of B')");
+        folder.run(Store::tax, "INSERT INTO PreciousStones (AssesseeNo, StoneSrNo) VALUES (18, 1), (17, 2)");
+        folder.run(Store::forms, "INSERT INTO Challan (AssesseeNo, Total) VALUES (18, 5), (17, 7)");
+        std::filesystem::create_directory(folder.path() + "/ITR");
+        std::ofstream(folder.path() + "/ITR/WT 17 2014-2015R") << "<return/>";
+        std::ofstream(folder.path() + "/ITR/WT 170 2014-2015") << "another's";
+    }
+
+    [[nodiscard]] std::string faults() const {
+        std::string text;
+        for (const std::string& each : find_faults(folder.path()))
+            text += each + "\n";
+        return text;
+    }
+    // As a foreign program can: without the store's own checks.
+    void spoil(Store store, const std::string& statement) const {
+        sqlite3* database = nullptr;
+        sqlite3_open(folder.file(store).c_str(), &database);
+        sqlite3_exec(database, "PRAGMA ignore_check_constraints = ON", nullptr, nullptr, nullptr);
+        EXPECT_EQ(sqlite3_exec(database, statement.c_str(), nullptr, nullptr, nullptr), SQLITE_OK)
+            << sqlite3_errmsg(database);
+        sqlite3_close(database);
+    }
+
+    DataFolder folder;
+    DataFolder elsewhere;
+    std::string file = elsewhere.path() + "/out";
+};
+
+TEST_F(FolderCareTest, ASoundFolderHasNoFaultsAndRentOfADeletedPropertyIsNone) {
+    folder.run(
+        Store::tax,
+        "INSERT INTO [Annual Rent] (AssesseeNo, FY, AssetType, PropertyNo) VALUES (17, '2014-2015', 0, 3)");
+    EXPECT_EQ(faults(), "");
+}
+
+TEST_F(FolderCareTest, EachFaultIsToldInPlainWords) {
+    spoil(Store::tax, "INSERT INTO NetWealthComputation (AssesseeNo, FY, LessDebt, DueDate) "
+                      "VALUES (17, '2014-2015', 'much', '2014-02-30'), (17, '2014-2015', 1, NULL)");
+    spoil(Store::tax, "UPDATE Enclosure SET AssesseeNo = 99 WHERE Description = 'of B'");
+    spoil(Store::tax, "ALTER TABLE TempPrint DROP COLUMN Col13");
+    spoil(Store::income_tax, "DROP TABLE AYRetDate");
+    EXPECT_EQ(
+        faults(),
+        "LVWTax: table \"NetWealthComputation\", row 1, column \"LessDebt\": not a number: \"much\"\n"
+        "LVWTax: table \"NetWealthComputation\", row 1, column \"DueDate\": not a date: \"2014-02-30\"\n"
+        "LVWTax: table \"NetWealthComputation\" has 2 rows of one key: AssesseeNo 17, FY 2014-2015\n"
+        "LVWTax: table \"TempPrint\" lacks the column \"Col13\"\n"
+        "LVIT: table \"AYRetDate\" is missing\n"
+        "LVWTax: table \"Enclosure\" has 1 row(s) of assessee 99, whom the master does not have\n");
+}
+
+TEST_F(FolderCareTest, AForeignAMissingAndADamagedStoreAreFaults) {
+    std::ofstream(folder.file(Store::income_tax)) << "this is no store, though it has its name";
+    std::filesystem::remove(folder.file(Store::forms));
+    std::string image = read_whole_file(folder.file(Store::tax));
+    for (std::size_t i = 4096; i < image.size(); i += 512)
+        image[i] = static_cast<char>(~image[i]);
+    std::ofstream(folder.file(Store::tax), std::ios::binary) << image;
+    const std::string told = faults();
+    EXPECT_NE(told.find("LVIT: " + folder.file(Store::income_tax) + ": file is not a database"),
+              std::string::npos);
+    EXPECT_NE(told.find("LVForms: Could not find file '" + folder.file(Store::forms)), std::string::npos);
+    EXPECT_NE(told.find("LVWTax: " + folder.file(Store::tax) + ": database disk image is malformed"),
+              std::string::npos)
+        << told;
+    EXPECT_EQ(read_whole_file(folder.file(Store::tax)), image) << "looking changes nothing";
+}
+
+TEST_F(FolderCareTest, ABackupBringsBackTheFolderAsItStood) {
+    back_up_folder(folder.path(), file);
+    folder.run(Store::tax, "DELETE * FROM Enclosure");
+    const std::string restored = elsewhere.path() + "/new/one";
+    restore_folder(file, restored);
+    EXPECT_EQ(find_faults(restored).size(), 0U);
+    EXPECT_EQ(run_statement(restored, Store::tax, "SELECT Description FROM Enclosure").rows.size(), 2U);
+    EXPECT_EQ(read_whole_file(restored + "/ITR/WT 17 2014-2015R"), "<return/>");
+    EXPECT_EQ(failure_of([&] { restore_folder(file, restored); }),
+              "75 " + restored + "/LVWTax.db: there is a store already");
+    EXPECT_EQ(failure_of([&] { back_up_folder(folder.path(), file); }), "75 " + file + ": File exists");
+}
+
+TEST_F(FolderCareTest, ADamagedBackupRestoresNothing) {
+    back_up_folder(folder.path(), file);
+    std::string image = read_whole_file(file);
+    const std::size_t at = image.find("of A");
+    ASSERT_NE(at, std::string::npos);
+    for (std::size_t i = at - 3000; i < at + 500; ++i)
+        image[i] = 'x';
+    std::ofstream(file, std::ios::binary) << image;
+    const std::string restored = elsewhere.path() + "/new";
+    EXPECT_NE(failure_of([&] { restore_folder(file, restored); }), "none");
+    EXPECT_FALSE(std::filesystem::exists(restored + "/LVWTax.db"));
+}
+
+TEST_F(FolderCareTest, OneClientMovesToAnotherFolderWithNumbersOfItsOwnThere) {
+    elsewhere.run(Store::forms, "INSERT INTO Challan (ChallanID, AssesseeNo) VALUES (2, 5)");
+    export_client(folder.path(), 17, file);
+    EXPECT_EQ(import_client(file, elsewhere.path()), 17);
+    EXPECT_EQ(elsewhere.rows(Store::assessee, "SELECT AssesseeNo, Assessee_Name FROM AssesseeInfo"), "17|A");
+    EXPECT_EQ(elsewhere.rows(Store::tax, "SELECT Description FROM Enclosure"), "of A");
+    EXPECT_EQ(elsewhere.rows(Store::tax, "SELECT AssesseeNo, StoneSrNo FROM PreciousStones"), "17|1");
+    EXPECT_EQ(elsewhere.rows(Store::forms, "SELECT ChallanID, AssesseeNo, Total FROM Challan"),
+              "2|5|Null; 3|17|7");
+    EXPECT_EQ(read_whole_file(elsewhere.path() + "/ITR/WT 17 2014-2015R"), "<return/>");
+    EXPECT_FALSE(std::filesystem::exists(elsewhere.path() + "/ITR/WT 170 2014-2015")) << "another client's";
+    EXPECT_EQ(failure_of([&] { import_client(file, elsewhere.path()); }),
+              "75 " + elsewhere.path() + ": assessee 17 is there already");
+    EXPECT_EQ(failure_of([&] { export_client(folder.path(), 4, file + "2"); }),
+              "53 " + folder.path() + ": there is no assessee 4");
+    EXPECT_FALSE(std::filesystem::exists(file + "2"));
+    EXPECT_FALSE(std::filesystem::exists(file + "2.part"));
+}
+
+TEST_F(FolderCareTest, AnImportThatFailsLeavesNothing) {
+    folder.run(Store::tax, "UPDATE Enclosure SET Description = 'again' WHERE AssesseeNo = 17");
+    export_client(folder.path(), 17, file);
+    elsewhere.run(Store::forms, "DROP TABLE Challan"); // the last of the stores
+    EXPECT_EQ(failure_of([&] { import_client(file, elsewhere.path()); }), "1 no such table: Challan");
+    EXPECT_EQ(elsewhere.rows(Store::tax, "SELECT * FROM Enclosure"), "");
+    EXPECT_FALSE(std::filesystem::exists(elsewhere.path() + "/ITR/WT 17 2014-2015R"));
+}
+
+TEST(CreateDataFolderTest, LeavesWhatIsThereAlone) {
+    const DataFolder folder;
+    std::filesystem::remove(folder.file(Store::tax));
+    std::filesystem::remove(folder.file(Store::assessee));
+    EXPECT_EQ(failure_of([&] { create_data_folder(folder.path()); }),
+              "75 " + folder.file(Store::income_tax) + ": there is a store already");
+    EXPECT_FALSE(std::filesystem::exists(folder.file(Store::tax)));
+    EXPECT_EQ(failure_of([&] { create_data_folder(folder.file(Store::forms) + "/below"); }).substr(0, 3),
+              "76 ");
+}
+
+} // namespace
+} // namespace levora::session
