@@ -1,0 +1,93 @@
+dofile((arg[0]:match("^.*/") or "") .. "check.lua")
+
+client(17)
+local sheet = open_sheet(17)
+sheet.cmdAssets:click()
+local screen = frmImmovable
+local grid = screen.sprImmovable
+
+local function headers(spr)
+    local all = {}
+    for column = 2, spr.cols do
+        local header = spr:header(column)
+        all[#all + 1] = spr:hidden(column) and "(" .. header .. ")" or header
+    end
+    return table.concat(all, " ")
+end
+
+-- Tabs, summary and menus.
+local captions = {}
+for tab = 0, 4 do captions[#captions + 1] = screen.SSTabAsset:caption(tab) end
+same(table.concat(captions, "|"), "Immovable Property|Urban Land|Movable Property|Interest in Firm or AOP|Jewellery")
+same(screen.mnuContextMenu.visible, false)
+same(screen.mnuConxtRow.visible, false)
+same(screen.txtTotalNetAmount.locked, true)
+same(screen.txtNetBusinessAssets:type("5"), false, "the summary is read-only")
+same(session("BusinessAssetFlag"), false)
+same(session("DeemedAssetFlag"), false)
+
+-- Counts that are typed.
+screen.cboNumberOfProperty:type("5")
+same(headers(grid), "1 2 3 4 5")
+screen.cboNumberOfProperty:type("2")
+same(headers(grid), "1 2 (3) (4) (5)")
+screen.cboNumberOfProperty:type("99999")
+local shown = messages()
+same(#shown, 1, "too many for the count")
+same(shown[1].title, "Levora Wealth Tax - Error")
+same(shown[1].text, "6 Overflow")
+screen.cboNumberOfProperty:type("3")
+
+-- Lists, masks and dates take what fits them.
+same(grid:type(2, 9, "11000"), true)
+same(grid:type(2, 9, "11000A"), false)
+same(grid:text(2, 9), "11000")
+same(grid:type(2, 32, "31/12/1989"), false, "before the first date")
+same(grid:type(2, 32, "1/1/1990"), true)
+same(grid:text(2, 32), "01/01/1990")
+same(grid:type(2, 12, "100000000000"), false, "above the bound")
+same(grid:type(2, 12, "-99999999"), true)
+same(grid:type(2, 13, "1"), false, "computed")
+same(grid:choose(2, 6, "Other"), true)
+same(grid:type(2, 6, "Noida"), false, "the list of towns stays closed")
+same(#grid:items(2, 6) .. " " .. #grid:items(2, 7) .. " " .. #grid:items(2, 8) .. " " .. grid:index(2, 8), "32 35 1 -1")
+grid:type(2, 12, "")
+
+-- The menu of columns.
+grid:type(4, 2, "third")
+grid:go(3, 5)
+same(grid:rightclick(), "mnuContextMenu")
+screen.mnuDeleteColumn:click()
+same(screen.cboNumberOfProperty.text, "2")
+same(headers(grid) .. " " .. grid:text(3, 2), "1 2 third")
+screen.mnuAddColumn:click()
+same(headers(grid), "1 2", "as many columns as the count asks for")
+
+-- A sheet of the land with its total row under the preview.
+local land = screen.sprUrbanLand
+local rows = land.rows
+same(land:rightclick(), "mnuConxtRow")
+screen.mnuPreview:click()
+same(land.rows, rows + 1)
+same(land:text(1, rows + 1), "Total")
+same(session("SheetGridName"), "sprUrbanLand")
+local printed = sheets()
+same(#printed .. " " .. printed[1].grid .. " " .. tostring(printed[1].preview), "1 sprUrbanLand true")
+same(printed[1].header, "/n /n Assessee Name : " .. sheet.txtAssesseeName.text .. "/n /n A. Y.  : 2014-2015/n /n"
+    .. land.tag .. "/n")
+same(printed[1].marginleft .. " " .. printed[1].margintop, "200 200")
+
+-- A save that fails is tried again for as long as a button answers; OK goes on with the sheet.
+screen.txtNetBusinessAssets.text = "40"
+store("LVWTax", "ALTER TABLE [Asset Details] RENAME TO Away")
+answer("OK", "OK")
+screen.cmdOK:click()
+shown = messages()
+same(#shown, 3)
+same(shown[3].answer == "OK", false, "dismissed")
+same(screen.loaded, false)
+same(sheet.txtAssetsSec2ea.text, "40")
+same(#store("LVWTax", "SELECT * FROM [Immovable Property Details]"), 2, "as far as it went")
+local log = io.open(program_folder() .. "/ErrorLog.txt"):read("a")
+same(select(2, log:gsub("frmImmovable %- SaveAssetComputation", "")), 3)
+finish()
