@@ -4,6 +4,7 @@
 #include "reports/preview_screens.h"
 #include "reports/print_dialog.h"
 #include "reports/report_source.h"
+#include "return/return_screen.h"
 #include "schedules/assets_screen.h"
 #include "widgets/value_text.h"
 
@@ -34,6 +35,8 @@ template <class T> std::unique_ptr<widgets::Form> make_screen(session::Session& 
 constexpr std::array screens{
     ScreenEntry{"frmWealthMain", make_screen<computation::frmWealthMain>},
     ScreenEntry{"frmImmovable", make_screen<schedules::frmImmovable>},
+    ScreenEntry{"frmITMDIParent", make_screen<form_ba::frmITMDIParent>},
+    ScreenEntry{"frmFormBA", make_screen<form_ba::frmFormBA>},
     ScreenEntry{"frmPrint", make_screen<reports::frmPrint>},
     ScreenEntry{"frmRepPreview", make_screen<reports::frmRepPreview>},
     ScreenEntry{"frmSprPreview", make_screen<reports::frmSprPreview>},

@@ -169,5 +169,5 @@ same(box.text .. "|" .. box.icon, "Blank or Invalid XML file, could not load the
 same(form.txtName.text .. "|" .. form.mskPAN.text, "|AAAPR1234C", "cleared, masks untouched")
 
 form.cmdValidatitor:click()
-same(started()[1].command, program_folder() .. "\\Levora XML Validator.exe Form.xsd 2014-2015")
+same(started()[1].command, program_folder() .. "/Levora XML Validator.exe Form.xsd 2014-2015")
 finish()
