@@ -1,10 +1,13 @@
 #pragma once
 
+#include "session/common_services.h"
 #include "session/session_state.h"
 #include "widgets/fields.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 // The payment challan ITNS 282: its stored challans, its entry rules. The printed form reads this
 // screen as it stands.
@@ -15,6 +18,7 @@ public:
     explicit frmChallan282(session::Session& session);
 
     void Form_Load() override;
+    void Form_Activate() override { session::SkinButtons(*this); }
     bool Form_QueryUnload() override;
     bool Form_KeyDown(std::string_view key) override;
 
@@ -112,29 +116,31 @@ private:
     enum class CessSite { year_click, income_tax, surcharge };
 
     void design();
+    void wire_lists();
     void wire_options();
     void wire_amounts();
-    void wire_lists();
-    void wire_paper();
+    void wire_other_fields();
     void wire_buttons();
 
+    void cboAssessmentYear_Click();
+    void cboPaymentBank_Click();
     void choose_tax(std::int32_t code);
     void choose_payment(const std::string& code);
-    void cboAssessmentYear_Click();
-    void amount_changed(const widgets::TextField& field, std::int32_t& amount, const char* procedure_name);
+    // Takes the field into its amount, works out the cess where the field is a site of it, and adds up.
+    void take_amount(const widgets::TextField& field, std::int32_t& amount,
+                     std::optional<CessSite> cess = std::nullopt);
     void apply_cess(CessSite site);
-    void cboPaymentBank_Click();
 
     void cboChallanList_Click();
     void cmdSave_Click();
     void cmdNew_Click();
     void cmdDelete1_Click();
-    // What the person wants done with the unsaved challan; Cancel when the box was dismissed.
+    // What to do with the unsaved challan; Cancel when the box was dismissed.
     widgets::Answer ask_to_save(const char* title);
     [[nodiscard]] bool may_overwrite();
-    session::RowSet open_row_to_save();
-    void write_columns(session::RowSet& row);
+    void write_columns(session::RowSet& row) const;
     void show_row(const session::RowSet& row);
+    void show_options(const session::RowSet& row);
     void list_saved_challan();
 
     bool ChallanDirty = false;  // something changed since the last load, clear or save
@@ -143,7 +149,7 @@ private:
     bool IsNewChallan = false;  // the last SaveChallan added a row
     std::string ChallanNo;      // "ITNS282"
     std::int32_t ChallanID = 0; // key of the challan on the screen
-    bool BanksLoaded = false;   // read on entering cboDrawnOn, never set
+    bool BanksLoaded = false;   // see LoadBankCombo
     std::string TypeOfPayment;  // "100", "300" or "400"
     std::int32_t TaxApplicable = 0;
 };

@@ -1,5 +1,6 @@
 #include "program/program.h"
 
+#include "challan/challan282.h"
 #include "computation/wealth_sheet.h"
 #include "reports/preview_screens.h"
 #include "reports/print_dialog.h"
@@ -34,6 +35,7 @@ template <class T> std::unique_ptr<widgets::Form> make_screen(session::Session& 
 
 constexpr std::array screens{
     ScreenEntry{"frmWealthMain", make_screen<computation::frmWealthMain>},
+    ScreenEntry{"frmChallan282", make_screen<challan::frmChallan282>},
     ScreenEntry{"frmImmovable", make_screen<schedules::frmImmovable>},
     ScreenEntry{"frmITMDIParent", make_screen<form_ba::frmITMDIParent>},
     ScreenEntry{"frmFormBA", make_screen<form_ba::frmFormBA>},
