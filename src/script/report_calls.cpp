@@ -106,7 +106,7 @@ int printed(lua_State* state) {
 
 void push_previewed_report(lua_State* state) {
     const auto* preview =
-        static_cast<const reports::frmRepPreview*>(host_of(state).find_screen("frmRepPreview"));
+        dynamic_cast<const reports::frmRepPreview*>(host_of(state).find_screen("frmRepPreview"));
     push_report(state, preview ? preview->report() : nullptr);
 }
 
