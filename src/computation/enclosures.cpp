@@ -1,45 +1,64 @@
 #include "computation/wealth_sheet.h"
+#include "session/common_services.h"
 
-#include <array>
+#include <string_view>
 
 namespace levora::computation {
 
 namespace {
-constexpr std::array<std::string_view, 2> enclosure_columns{"Description", "Figure"};
+
+struct EnclosureField {
+    int column;
+    const char* header;
+    int max_chars;
+    int width;
+    std::string_view stored_as;
+};
+constexpr EnclosureField enclosure_fields[] = {
+    {EnclosureColumn::description, "Description ", 50, 40, "Description"},
+    {EnclosureColumn::figure, "In Figures", 10, 12, "Figure"},
+};
+
 } // namespace
 
+void frmWealthMain::design_enclosures() {
+    sprEnclosure.set_header(0, "Sr. No.");
+    for (const EnclosureField& field : enclosure_fields) {
+        sprEnclosure.design_column(field.column, widgets::text_cell(field.max_chars));
+        sprEnclosure.set_header(field.column, field.header);
+        sprEnclosure.set_column_width(field.column, field.width);
+    }
+}
+
+// Nothing is written back while reading, so that looking at a sheet leaves the store untouched.
 void frmWealthMain::load_enclosures(const session::Attempt& attempt) {
-    sprEnclosure.clear_data();
+    attempt([this] { sprEnclosure.clear_data(); });
     session_.SqlText = "Select * From Enclosure Where " + row_key();
-    session::RowSet rows =
-        attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, session::RowSetUse::update); });
+    session::RowSet rows = attempt([this] { return session_.TaxDb.open_rows(session_.SqlText); });
     for (int row = 1; !rows.eof(); ++row) {
-        if (row > sprEnclosure.rows()) sprEnclosure.set_rows(row);
-        for (int column = 1; const std::string_view stored : enclosure_columns)
-            attempt([&] { sprEnclosure.set_text(column++, row, rows[stored].text()); });
+        if (sprEnclosure.rows() < row) attempt([&] { sprEnclosure.set_rows(row); });
+        for (const EnclosureField& field : enclosure_fields)
+            attempt([&] { sprEnclosure.set_text(field.column, row, rows[field.stored_as].text()); });
         rows.move_next();
     }
 }
 
 void frmWealthMain::save_enclosures(const session::Attempt& attempt) {
     session_.SqlText = "Delete From Enclosure Where " + row_key();
-    attempt([&] { return session_.TaxDb.execute(session_.SqlText); });
+    attempt([this] { session_.TaxDb.execute(session_.SqlText); });
     session_.SqlText = "Select * From Enclosure Where " + row_key();
     session::RowSet rows =
-        attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, session::RowSetUse::update); });
-    const int last = sprEnclosure.data_rows();
-    for (int row = 1; row <= last; ++row) {
+        attempt([this] { return session_.TaxDb.open_rows(session_.SqlText, session::RowSetUse::update); });
+    for (int row = 1; row <= sprEnclosure.data_rows(); ++row) {
         attempt([&] { rows.add_new(); });
         attempt([&] { rows.set("AssesseeNo", session_.AssesseeNo); });
         attempt([&] { rows.set("FY", session_.CurrentFY); });
-        for (int column = 1; const std::string_view stored : enclosure_columns) {
-            attempt([&] { rows.set(stored, sprEnclosure.text(column, row)); });
-            ++column;
-        }
+        for (const EnclosureField& field : enclosure_fields)
+            attempt([&] { rows.set(field.stored_as, sprEnclosure.text(field.column, row)); });
         attempt([&] { rows.update(); });
-        // Wanted: the row set is closed inside the loop. One enclosure is stored; a second one fails on
-        // the closed row set and is reported.
-        rows.close();
+        // Wanted: the rows are closed inside the loop. One enclosure is stored; a second fails here on
+        // the closed rows and is reported. Closing after the loop would store them all.
+        attempt([&] { rows.close(); });
     }
 }
 

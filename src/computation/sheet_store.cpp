@@ -1,41 +1,62 @@
 #include "computation/wealth_sheet.h"
+#include "session/common_services.h"
+#include "widgets/date_text.h"
 
-#include <array>
+#include <string_view>
+#include <variant>
 
 namespace levora::computation {
 
 namespace {
 
 using Sheet = frmWealthMain;
+using StoredField =
+    std::variant<widgets::TextField Sheet::*, widgets::TickBox Sheet::*, widgets::MaskedField Sheet::*>;
 
-struct StoredFigure {
-    std::string_view column;
-    widgets::TextField Sheet::*field;
+struct StoredColumn {
+    std::string_view name;
+    StoredField field;
 };
 
-// Written and read in this order: every figure behind its causes, so that the stored ones stand at the
-// end of a load. The dates and the tick stand between the two runs.
-constexpr std::array figures_before_dates{
-    StoredFigure{"AssetsValue", &Sheet::txtAssetsSec2ea},
-    StoredFigure{"DeemedAssetsValue", &Sheet::txtDeemedAssets},
-    StoredFigure{"TotalAssetValue", &Sheet::txtTotalAssets},
-    StoredFigure{"ExemptedAssets", &Sheet::txtExemptedAssets},
-    StoredFigure{"AssetChargeableWTax", &Sheet::txtAssetsChargeableToWTax},
-    StoredFigure{"LessDebt", &Sheet::txtLessDebt},
-    StoredFigure{"NetWealth", &Sheet::txtNetWealth},
-    StoredFigure{"RoundedNetWealth", &Sheet::txtNetWealthRoundedOff},
-    StoredFigure{"TaxableWealth", &Sheet::txtTaxableWealth},
-    StoredFigure{"TaxOnNetWealth", &Sheet::txtWealthTaxLiability},
-};
-constexpr std::array figures_behind_dates{
-    StoredFigure{"Interest", &Sheet::txtInterest},
-    StoredFigure{"PrepainTaxInterest", &Sheet::txtPrepaidTax},
-    StoredFigure{"BalanceTaxPayable", &Sheet::txtBalanceTaxIntPayable},
-    StoredFigure{"Refund", &Sheet::txtTaxRefund},
+// In this order each stored figure is loaded after its causes, and so stands at the end.
+constexpr StoredColumn stored_columns[] = {
+    {"AssetsValue", &Sheet::txtAssetsSec2ea},
+    {"DeemedAssetsValue", &Sheet::txtDeemedAssets},
+    {"TotalAssetValue", &Sheet::txtTotalAssets},
+    {"ExemptedAssets", &Sheet::txtExemptedAssets},
+    {"AssetChargeableWTax", &Sheet::txtAssetsChargeableToWTax},
+    {"LessDebt", &Sheet::txtLessDebt},
+    {"NetWealth", &Sheet::txtNetWealth},
+    {"RoundedNetWealth", &Sheet::txtNetWealthRoundedOff},
+    {"TaxableWealth", &Sheet::txtTaxableWealth},
+    {"TaxOnNetWealth", &Sheet::txtWealthTaxLiability},
+    {"Audited", &Sheet::chkAudited},
+    {"DueDate", &Sheet::mskDueDate},
+    {"ReturnDate", &Sheet::mskRetDate},
+    {"Interest", &Sheet::txtInterest},
+    {"PrepainTaxInterest", &Sheet::txtPrepaidTax},
+    {"BalanceTaxPayable", &Sheet::txtBalanceTaxIntPayable},
+    {"Refund", &Sheet::txtTaxRefund},
 };
 
-std::string figure_text(const session::Value& value) {
-    return value.is_null() ? "0" : value.text();
+void show(widgets::TextField& field, const session::Value& stored) {
+    field.set_text(stored.is_null() ? "0" : stored.text());
+}
+void show(widgets::TickBox& box, const session::Value& stored) {
+    box.set_value(stored.number() == 1 ? 1 : 0);
+}
+void show(widgets::MaskedField& date, const session::Value& stored) {
+    date.set_text(stored.day_month_year_or_empty());
+}
+
+session::Value to_store(const widgets::TextField& field) {
+    return field.value();
+}
+session::Value to_store(const widgets::TickBox& box) {
+    return box.value();
+}
+session::Value to_store(const widgets::MaskedField& date) {
+    return date.text(); // as it stands: the column refuses what is no date
 }
 
 } // namespace
@@ -49,83 +70,68 @@ void frmWealthMain::cboFY_Click() {
     session_.CurrentFY = cboFY.text();
     session_.AYStartYear = session_.CurrentFY.substr(0, 4);
     ClearTaxComputation();
-    txtExemptedAmount.set_text("3000000");
+    txtExemptedAmount.set_text(exempted_amount);
     LoadWealthTaxComputation();
     LoadPrepaidTaxes();
 }
 
 void frmWealthMain::ClearTaxComputation() {
-    session::procedure(
-        session_, "frmWealthTaxMain - ClearTaxComputation", [this](const session::Attempt& attempt) {
-            for (const StoredFigure& each : figures_before_dates)
-                attempt([&] { (this->*each.field).set_text(""); });
-            attempt([&] { mskRetDate.set_text(day_month_year(session_.desk.today())); });
-            attempt([&] { chkAudited.set_value(1); });
-            look_up_due_date(attempt);
-            for (widgets::TextField* field :
-                 {&txtInterest, &txtTaxIntPayable, &txtPrepaidTax, &txtBalanceTaxIntPayable, &txtTaxRefund})
-                attempt([&] { field->set_text(""); });
-        });
-}
+    session::procedure(session_, "frmWealthTaxMain - ClearTaxComputation", [this](const auto& attempt) {
+        for (widgets::TextField* field :
+             {&txtAssetsSec2ea, &txtDeemedAssets, &txtTotalAssets, &txtExemptedAssets,
+              &txtAssetsChargeableToWTax, &txtLessDebt, &txtNetWealth, &txtNetWealthRoundedOff,
+              &txtTaxableWealth, &txtWealthTaxLiability})
+            attempt([field] { field->set_text(""); });
+        attempt([this] { mskRetDate.set_text(day_month_year(session_.desk.today())); });
+        attempt([this] { chkAudited.set_value(1); });
 
-void frmWealthMain::look_up_due_date(const session::Attempt& attempt) {
-    session_.SqlText = "Select AuditRetDueDate From AYRetDate where AY = '" + session_.AYStartYear + "'";
-    const session::RowSet rows = attempt([&] { return session_.ITDb.open_rows(session_.SqlText); });
-    if (rows.eof()) return;
-    if (const std::optional<Date> due = rows["AuditRetDueDate"].date())
-        attempt([&] { mskDueDate.set_text(day_month_year(*due)); });
+        session_.SqlText = "Select AuditRetDueDate From AYRetDate where AY = '" + session_.AYStartYear + "'";
+        const session::RowSet years = attempt([this] { return session_.ITDb.open_rows(session_.SqlText); });
+        if (!years.eof())
+            attempt([&] {
+                if (const auto due = years["AuditRetDueDate"].date())
+                    mskDueDate.set_text(day_month_year(*due));
+            });
+
+        for (widgets::TextField* field :
+             {&txtInterest, &txtTaxIntPayable, &txtPrepaidTax, &txtBalanceTaxIntPayable, &txtTaxRefund})
+            attempt([field] { field->set_text(""); });
+    });
 }
 
 void frmWealthMain::LoadWealthTaxComputation() {
-    session::procedure(
-        session_, "frmWealthTaxMain - LoadWealthTaxComputation", [this](const session::Attempt& attempt) {
-            session_.SqlText =
-                "select * From NetWealthComputation where AssesseeNo = " + session_.assessee_text() +
-                " and FY = '" + session_.CurrentFY + "'";
-            const session::RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
-            if (!rows.eof()) {
-                const auto load = [&](const StoredFigure& each) {
-                    attempt([&] { (this->*each.field).set_text(figure_text(rows[each.column])); });
-                };
-                for (const StoredFigure& each : figures_before_dates)
-                    load(each);
-                attempt([&] { chkAudited.set_value(rows["Audited"].number() == 1 ? 1 : 0); });
-                attempt([&] { mskDueDate.set_text(rows["DueDate"].day_month_year_or_empty()); });
-                attempt([&] { mskRetDate.set_text(rows["ReturnDate"].day_month_year_or_empty()); });
-                for (const StoredFigure& each : figures_behind_dates)
-                    load(each);
-            }
-            load_enclosures(attempt);
-        });
+    session::procedure(session_, "frmWealthTaxMain - LoadWealthTaxComputation", [this](const auto& attempt) {
+        session_.SqlText =
+            "select * From NetWealthComputation where AssesseeNo = " + session_.assessee_text() +
+            " and FY = '" + session_.CurrentFY + "'";
+        const session::RowSet row = attempt([this] { return session_.TaxDb.open_rows(session_.SqlText); });
+        if (!row.eof())
+            for (const StoredColumn& column : stored_columns)
+                attempt([&] {
+                    std::visit([&](auto field) { show(this->*field, row[column.name]); }, column.field);
+                });
+        load_enclosures(attempt);
+    });
 }
 
 void frmWealthMain::SaveWealthTaxComputation() {
-    session::procedure(
-        session_, "frmWealthMain - SaveWealthTaxComputation", [this](const session::Attempt& attempt) {
-            session_.SqlText =
-                "Select * from NetWealthComputation WHERE AssesseeNo = " + session_.assessee_text() +
-                " And FY = '" + session_.CurrentFY + "'";
-            session::RowSet rows = attempt(
-                [&] { return session_.TaxDb.open_rows(session_.SqlText, session::RowSetUse::update); });
-            if (rows.eof()) {
-                attempt([&] { rows.add_new(); });
-                attempt([&] { rows.set("AssesseeNo", session_.AssesseeNo); });
-                attempt([&] { rows.set("FY", session_.CurrentFY); });
-            }
-            const auto keep = [&](const StoredFigure& each) {
-                attempt([&] { rows.set(each.column, (this->*each.field).value()); });
-            };
-            for (const StoredFigure& each : figures_before_dates)
-                keep(each);
-            attempt([&] { rows.set("Audited", chkAudited.value()); });
-            attempt([&] { rows.set("DueDate", mskDueDate.text()); });
-            attempt([&] { rows.set("ReturnDate", mskRetDate.text()); });
-            for (const StoredFigure& each : figures_behind_dates)
-                keep(each);
-            attempt([&] { rows.update(); });
-            rows.close();
-            save_enclosures(attempt);
-        });
+    session::procedure(session_, "frmWealthMain - SaveWealthTaxComputation", [this](const auto& attempt) {
+        session_.SqlText = "Select * from NetWealthComputation WHERE " + row_key();
+        session::RowSet row = attempt(
+            [this] { return session_.TaxDb.open_rows(session_.SqlText, session::RowSetUse::update); });
+        if (row.eof()) {
+            attempt([&] { row.add_new(); });
+            attempt([&] { row.set("AssesseeNo", session_.AssesseeNo); });
+            attempt([&] { row.set("FY", session_.CurrentFY); });
+        }
+        for (const StoredColumn& column : stored_columns)
+            attempt([&] {
+                std::visit([&](auto field) { row.set(column.name, to_store(this->*field)); }, column.field);
+            });
+        attempt([&] { row.update(); });
+        attempt([&] { row.close(); });
+        save_enclosures(attempt);
+    });
 }
 
 void frmWealthMain::SaveAllComputation() {

@@ -1,128 +1,166 @@
 #pragma once
 
-#include "session/common_services.h"
 #include "session/grid_sheet.h"
 #include "session/session_state.h"
 #include "widgets/fields.h"
 #include "widgets/grid.h"
 
-#include <span>
+#include <cstdint>
+#include <functional>
 #include <string>
-#include <string_view>
-#include <vector>
+
+namespace levora::session {
+class Attempt;
+}
 
 namespace levora::computation {
 
-class frmWealthMain;
+struct SheetRule;
 
-// A field that a figure is made of, and whether it is added (+1) or taken off (-1).
-struct SheetTerm {
-    widgets::TextField frmWealthMain::*field;
-    int sign;
+// Columns of the two grids of the sheet.
+struct PrepaidColumn {
+    enum : int { bank_name = 1, bank_branch, bsr_code, date_of_deposit, challan_number, amount };
+};
+struct EnclosureColumn {
+    enum : int { description = 1, figure };
 };
 
-// One step of the chain from assets to tax: the target is `shape` of the signed sum of its sources, in
-// rupees. The chain itself and the explanation of a figure both walk these.
-struct SheetLink {
-    widgets::TextField frmWealthMain::*target;
-    std::vector<SheetTerm> sources;
-    double (*shape)(double sum);
-    std::string_view shape_words; // what the shape does, for a person; empty when it does nothing
-};
+// Net wealth that is exempt for every assessee and year, in rupees, as the sheet shows it (section 3).
+constexpr const char* exempted_amount = "3000000";
 
-std::span<const SheetLink> sheet_links();
-
-// The net wealth sheet: each figure is a text field, and the change of one field's text recomputes the
-// next (Wealth-tax Act, 1957: sections 2(ea), 2(m), 4, 5, 17(B), 44C). Its loading is the start of the
-// program. Amounts are rupees.
-class frmWealthMain : public session::Screen {
+// The net wealth sheet of one assessee and year, in rupees, and the hub of all screens. There is no
+// calculate step: the change of one field works out the next (Wealth-tax Act, sections 2(m), 3, 4, 5,
+// 17B and 44C). Other screens hand their totals over by assigning txtAssetsSec2ea, txtDeemedAssets
+// and txtExemptedAssets. Its loading is the start of the program, its unloading the end.
+class frmWealthMain final : public session::Screen {
 public:
     explicit frmWealthMain(session::Session& session);
 
     widgets::ListField cboFY;
     widgets::TextField txtAssesseeName;
     widgets::MaskedField mskValuationDate;
-    widgets::TextField txtAssetsSec2ea, txtDeemedAssets, txtTotalAssets, txtExemptedAssets;
-    widgets::TextField txtAssetsChargeableToWTax, txtLessDebt, txtNetWealth, txtNetWealthRoundedOff;
-    widgets::TextField txtExemptedAmount, txtTaxableWealth, txtWealthTaxLiability, txtInterest;
-    widgets::TextField txtTaxIntPayable, txtPrepaidTax, txtBalanceTaxIntPayable, txtTaxRefund;
-    widgets::Button cmdAssets, cmdDeemedAssets, cmdExemptedAsset;
-    widgets::Button cmdInterest, cmdSATaxPayable, cmdEnclosure;
-    widgets::Button cmdformBA, cmdChallan, cmdPreview, cmdSave1, cmdMainExit;
+
+    // The sheet from top to bottom, each field with the button beside it.
+    widgets::TextField txtAssetsSec2ea;
+    widgets::Button cmdAssets;
+    widgets::TextField txtDeemedAssets;
+    widgets::Button cmdDeemedAssets;
+    widgets::TextField txtTotalAssets;
+    widgets::TextField txtExemptedAssets;
+    widgets::Button cmdExemptedAsset;
+    widgets::TextField txtAssetsChargeableToWTax;
+    widgets::TextField txtLessDebt;
+    widgets::TextField txtNetWealth;
+    widgets::TextField txtNetWealthRoundedOff;
+    widgets::TextField txtExemptedAmount;
+    widgets::TextField txtTaxableWealth;
+    widgets::TextField txtWealthTaxLiability;
+    widgets::TextField txtInterest;
+    widgets::Button cmdInterest;
+    widgets::TextField txtTaxIntPayable;
+    widgets::TextField txtPrepaidTax;
+    widgets::Button cmdSATaxPayable;
+    widgets::TextField txtBalanceTaxIntPayable;
+    widgets::TextField txtTaxRefund;
+
+    // Interest under section 17B.
     widgets::Frame frInterest;
-    widgets::MaskedField mskDueDate, mskRetDate;
     widgets::TickBox chkAudited;
+    widgets::MaskedField mskDueDate;
+    widgets::MaskedField mskRetDate;
     widgets::Timer timInterest;
+
+    // Challans of tax paid.
     widgets::Frame frSATax;
     widgets::Grid sprSATax;
     widgets::Timer timSATax;
+
+    // Documents enclosed with the return.
+    widgets::Button cmdEnclosure;
     widgets::Frame frEnclosure;
     widgets::Grid sprEnclosure;
+
+    widgets::Button cmdformBA;
+    widgets::Button cmdChallan;
+    widgets::Button cmdPreview;
+    widgets::Button cmdSave1;
+    widgets::Button cmdMainExit;
+
     widgets::Menu mnuWealthTax;
-    widgets::MenuItem mnuAddrows, mnuDeleteRows, mnuPreviewSheet, mnuPrintSheet;
+    widgets::MenuItem mnuAddrows;
+    widgets::MenuItem mnuDeleteRows;
+    widgets::MenuItem mnuPreviewSheet;
+    widgets::MenuItem mnuPrintSheet;
 
+    // The whole start-up. A call that names no year or assessee ends the program.
     void Form_Load() override;
+    // Closes two connections and ends the process; nothing is saved or asked.
     bool Form_QueryUnload() override;
-    void InitializecontrolsAndVars();
 
+    void InitializecontrolsAndVars();
+    // Takes the year over and loads its sheet; what was not saved is lost.
+    void cboFY_Click();
     void ClearTaxComputation();
     void LoadWealthTaxComputation();
     void SaveWealthTaxComputation();
     void SaveAllComputation();
+
     void LoadPrepaidTaxes();
+    // These three pass a Failure on to their caller.
     void LoadPrepaidTaxesOnOpen();
     void SavePrepaidTaxes();
     void SavePrepaidTaxesOnClose();
 
-    void cboFY_Click();
     void chkAudited_Click();
     void mskDueDate_Change();
     void mskRetDate_Change();
+    // Saves, then ends the program.
     void cmdMainExit_Click();
 
 private:
-    // The direction of a sliding panel (1 opening, 0 closing) and the moves made; twips a move.
-    struct Slide {
-        double wider_twips;
-        double further_left_twips;
-        int direction = 0;
-        int step = 0;
-    };
+    struct Slide;
     struct PrepaidLoading;
+    enum class RowSetAtEnd { dropped, closed };
 
-    void design_grids();
+    void design();
     void connect_chain();
-    void connect_interest();
+    void connect_dates();
     void connect_grids();
+    void connect_panels();
     void connect_buttons();
-    void follow(widgets::TextField frmWealthMain::*target);
-    void txtNetWealth_Change();
-    void txtWealthTaxLiability_Change();
-    void settle_balance();
 
-    bool judge_command_line();
-    void open_stores(const session::Attempt& attempt);
     void clear_lock_row(const session::Attempt& attempt);
-    void ShowScreen(std::string_view screen);
-    void cmdPreview_Click();
-    void sheet_of_active_grid(session::SheetUse use);
 
-    void look_up_due_date(const session::Attempt& attempt);
-    void set_interest(double (*rounding)(double));
-    [[nodiscard]] int months_late() const;
+    // Writes the field that the rule tells of.
+    void work_out(const SheetRule& rule);
+    void work_out_interest(double (*rounding)(double));
+    void work_out_prepaid_tax();
+
+    // "AssesseeNo = 17 And FY = '2014-2015'"
+    [[nodiscard]] std::string row_key() const;
+    void design_prepaid();
+    void design_enclosures();
     void load_enclosures(const session::Attempt& attempt);
     void save_enclosures(const session::Attempt& attempt);
-    void load_prepaid(const PrepaidLoading& loading, session::RowSet rows);
-    void save_prepaid(const std::string& delete_statement);
-    void sprSATax_Change(int column);
-    void grid_key_char(widgets::Grid& grid, char32_t character);
-    void toggle(Slide& slide, widgets::Frame& panel, widgets::Button& button, widgets::Timer& timer);
-    void step(Slide& slide, widgets::Frame& panel, widgets::Timer& timer);
-    // " where AssesseeNo = 17 And FY = '2014-2015'"
-    [[nodiscard]] std::string row_key() const;
+    void put_prepaid_row(const session::RowSet& rows, int row, const PrepaidLoading& how);
+    template <class Step> void load_prepaid(const PrepaidLoading& how, const Step& step);
+    void save_prepaid(const std::string& deletion, RowSetAtEnd at_end);
 
-    Slide interest_slide_{373.5, 372};
-    Slide prepaid_slide_{805.5, 816};
+    void sheet_of_active_grid(session::SheetUse use);
+    void delete_active_row(widgets::Grid& grid);
+    void grid_character(widgets::Grid& grid, char32_t character);
+
+    [[nodiscard]] Slide interest_slide();
+    [[nodiscard]] Slide prepaid_slide();
+    void open_or_close(const Slide& slide);
+    void slide_on(const Slide& slide);
+    void cmdSATaxPayable_Click();
+    void cmdEnclosure_Click();
+
+    int InterestSlideDirection = 0; // 1 opening, 0 closing
+    std::uint8_t InterestSlideStep = 0;
+    int SATaxSlideDirection = 0;
+    std::uint8_t SATaxSlideStep = 0;
 };
 
 } // namespace levora::computation
