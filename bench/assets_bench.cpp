@@ -1,3 +1,4 @@
+#include "computation/wealth_sheet.h"
 #include "schedules/assets_screen.h"
 #include "schedules/property_grid.h"
 #include "widgets/headless_desk.h"
@@ -6,6 +7,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <stdexcept>
 #include <string>
 
 using namespace levora;
@@ -13,30 +15,36 @@ using namespace levora::schedules;
 
 namespace {
 
-// One assessee with so many let-out properties, stored, on a folder of its own.
+// A started program with one assessee and so many properties, stored, on a folder of its own.
 class Assets {
 public:
     explicit Assets(int properties) {
-        session::create_store(folder(), session::Store::tax);
-        session_.DataFolder = folder();
-        session_.TaxDb.open("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + folder() + "LVWTax.mdb");
-        session_.AssesseeNo = 17;
-        session_.CurrentFY = "2014-2015";
-        session_.screens.define("frmImmovable", [this] { return std::make_unique<frmImmovable>(session_); });
+        for (const session::Store store : session::all_stores)
+            session::create_store(folder(), store);
+        settings_.hold(session::registry::shared, "LVDBPath", folder());
+        screens().define("frmWealthMain",
+                         [this] { return std::make_unique<computation::frmWealthMain>(session_); });
+        screens().define("frmImmovable", [this] { return std::make_unique<frmImmovable>(session_); });
+        screens().show("frmWealthMain");
+        if (screens().ended()) throw std::runtime_error("the program did not start");
         own(properties);
     }
     ~Assets() { std::filesystem::remove_all(path_); }
 
-    frmImmovable& screen() { return session_.screens.get<frmImmovable>("frmImmovable"); }
-    void close() { session_.screens.unload("frmImmovable"); }
+    frmImmovable& screen() { return screens().get<frmImmovable>("frmImmovable"); }
+    computation::frmWealthMain& sheet() { return screens().get<computation::frmWealthMain>("frmWealthMain"); }
+    void close() { screens().unload("frmImmovable"); }
 
 private:
+    widgets::Screens& screens() { return session_.screens; }
     std::string folder() { return path_.string() + "/"; }
     void own(int properties) {
         ImmovableSchedule& schedule = screen().immovable;
         schedule.cboNumberOfProperty.type(number_text(properties));
         for (int column = 2; column <= properties + 1; ++column) {
-            schedule.sprImmovable.type(column, PropertyRow::premises, "Park View");
+            for (const int row :
+                 {PropertyRow::flat, PropertyRow::premises, PropertyRow::road, PropertyRow::area})
+                schedule.sprImmovable.set_text(column, row, "Park View");
             schedule.sprImmovable.set_text(column, PropertyRow::annual_value, "600000");
             schedule.sprImmovable.set_text(column, PropertyRow::cost, "4000000");
         }
@@ -51,19 +59,22 @@ private:
     }();
     widgets::HeadlessDesk desk_;
     session::Settings settings_{folder() + "settings.toml"};
-    session::Session session_{{desk_, settings_, folder(), "", "DESK"}};
+    session::Session session_{{desk_, settings_, folder(), "2014-2015 17 Individual x 0", "DESK"}};
 };
 
-// One typed figure of a property, through its valuation and the total to the summary.
+// One typed figure of a property, through its valuation, the totals and the chain down to the tax.
 void edit_of_a_property(benchmark::State& state) {
     const int properties = static_cast<int>(state.range(0));
     Assets assets(properties);
-    widgets::Grid& grid = assets.screen().immovable.sprImmovable;
+    frmImmovable& screen = assets.screen();
+    computation::frmWealthMain& sheet = assets.sheet();
     bool odd = false;
     for (auto _ : state) {
         odd = !odd;
-        grid.type(properties + 1, PropertyRow::annual_value, odd ? "650000" : "600000");
-        benchmark::DoNotOptimize(assets.screen().txtTotalNetAmount.value());
+        screen.immovable.sprImmovable.type(properties + 1, PropertyRow::annual_value,
+                                           odd ? "650000" : "600000");
+        sheet.txtAssetsSec2ea.set_text(screen.txtTotalNetAmount.text());
+        benchmark::DoNotOptimize(sheet.txtWealthTaxLiability.value());
     }
 }
 BENCHMARK(edit_of_a_property)->Arg(1)->Arg(50)->Arg(1000)->Unit(benchmark::kMicrosecond);
