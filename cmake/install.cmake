@@ -19,6 +19,7 @@ foreach(part Report)
 endforeach()
 file(GLOB schemas ${CMAKE_SOURCE_DIR}/share/*.xsd)
 install(FILES ${schemas} DESTINATION ${levora_home})
+install(DIRECTORY share/schema DESTINATION ${levora_home})
 install(FILES share/levora-wealth-tax.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES share/levora-wealth-tax.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES share/icons/levora-wealth-tax.svg

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <memory>
@@ -42,6 +43,7 @@ inline std::string file_bytes(const std::string& path) {
 class ReturnTest : public ::testing::Test {
 protected:
     ReturnTest() : settings_(folder_.path() + "/settings.toml") {
+        std::filesystem::create_directory(folder_.path() + "/program");
         desk_.set_today({2014, 8, 20});
         restart();
     }

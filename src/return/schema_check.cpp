@@ -1,0 +1,122 @@
+#include "return/schema_check.h"
+
+#include "widgets/failure.h"
+
+#include <filesystem>
+#include <memory>
+
+#include <libxml/parser.h>
+#include <libxml/parserInternals.h>
+#include <libxml/xmlschemas.h>
+
+namespace levora::form_ba {
+
+namespace {
+
+struct FreeSchema {
+    void operator()(xmlSchemaParserCtxt* context) const { xmlSchemaFreeParserCtxt(context); }
+    void operator()(xmlSchema* schema) const { xmlSchemaFree(schema); }
+    void operator()(xmlSchemaValidCtxt* context) const { xmlSchemaFreeValidCtxt(context); }
+};
+
+// Where schemas come from while they are read. The library's loader is one for all and is handed
+// nothing of ours, so this stands beside it.
+std::string schema_folder;
+
+xmlParserInputPtr load_schema(const char* url, const char*, xmlParserCtxtPtr context) {
+    const std::filesystem::path wanted(url ? url : "");
+    const std::string name = wanted.filename().string();
+    const std::string_view text = built_in_schema(name);
+    if (text.empty()) return nullptr; // none of ours
+    const std::filesystem::path folder = name == "Form.xsd" ? schema_folder : schema_folder + "/schema";
+    const std::filesystem::path file = folder / name;
+    if (std::filesystem::exists(file)) return xmlNewInputFromFile(context, file.c_str());
+    return xmlNewStringInputStream(context, reinterpret_cast<const xmlChar*>(text.data()));
+}
+
+// For as long as it lives, only schemas are opened.
+class SchemaFilesOnly {
+public:
+    explicit SchemaFilesOnly(const std::string& folder) : before_(xmlGetExternalEntityLoader()) {
+        schema_folder = folder;
+        xmlSetExternalEntityLoader(load_schema);
+    }
+    ~SchemaFilesOnly() { xmlSetExternalEntityLoader(before_); }
+    SchemaFilesOnly(const SchemaFilesOnly&) = delete;
+    SchemaFilesOnly& operator=(const SchemaFilesOnly&) = delete;
+
+private:
+    xmlExternalEntityLoader before_;
+};
+
+void ignore(void*, xmlErrorPtr) {}
+
+std::string written_name(const xmlNode* node) {
+    const auto* const local = reinterpret_cast<const char*>(node->name);
+    if (!node->ns || !node->ns->prefix) return local;
+    return std::string(reinterpret_cast<const char*>(node->ns->prefix)) + ":" + local;
+}
+
+int position_among_its_kind(const xmlNode* node) {
+    int position = 1;
+    const std::string name = written_name(node);
+    for (const xmlNode* each = node->prev; each; each = each->prev)
+        if (each->type == XML_ELEMENT_NODE && written_name(each) == name) ++position;
+    return position;
+}
+
+// The local name in "... type '{http://...}pan'." at the end of a message.
+std::string type_in(std::string_view message) {
+    const std::size_t brace = message.rfind("}");
+    if (message.find("type '") == std::string_view::npos || brace == std::string_view::npos) return {};
+    const std::size_t end = message.find('\'', brace);
+    return end == std::string_view::npos ? std::string()
+                                         : std::string(message.substr(brace + 1, end - brace - 1));
+}
+
+struct Faults {
+    std::vector<SchemaFault> list;
+    const xmlNode* last = nullptr;
+};
+
+// The library tells the facet first and the type behind it: one fault for each element.
+void note_fault(void* user, xmlErrorPtr error) {
+    auto& faults = *static_cast<Faults*>(user);
+    const auto* const node = static_cast<const xmlNode*>(error->node);
+    if (!node || node->type != XML_ELEMENT_NODE) return;
+    const std::string type = type_in(error->message ? error->message : "");
+    if (node == faults.last) {
+        if (!type.empty()) faults.list.back().type = type;
+        return;
+    }
+    faults.last = node;
+    SchemaFault fault;
+    fault.element = written_name(node);
+    fault.value = XmlNode(node).text();
+    fault.type = type;
+    if (node->parent && node->parent->type == XML_ELEMENT_NODE) {
+        fault.row_element = written_name(node->parent);
+        fault.row = position_among_its_kind(node->parent);
+        const xmlNode* const outer = node->parent->parent;
+        if (outer && outer->type == XML_ELEMENT_NODE) fault.outer_row = position_among_its_kind(outer);
+    }
+    faults.list.push_back(std::move(fault));
+}
+
+} // namespace
+
+std::vector<SchemaFault> check_against_schema(const XmlDocument& document, const std::string& folder) {
+    const SchemaFilesOnly guard(folder);
+    const std::unique_ptr<xmlSchemaParserCtxt, FreeSchema> parser(xmlSchemaNewParserCtxt("Form.xsd"));
+    if (parser) xmlSchemaSetParserStructuredErrors(parser.get(), ignore, nullptr);
+    const std::unique_ptr<xmlSchema, FreeSchema> schema(parser ? xmlSchemaParse(parser.get()) : nullptr);
+    const std::unique_ptr<xmlSchemaValidCtxt, FreeSchema> check(schema ? xmlSchemaNewValidCtxt(schema.get())
+                                                                       : nullptr);
+    if (!check) throw Failure(error_number::path_access, folder + "/Form.xsd can't be used as a schema");
+    Faults faults;
+    xmlSchemaSetValidStructuredErrors(check.get(), note_fault, &faults);
+    xmlSchemaValidateDoc(check.get(), document.get());
+    return std::move(faults.list);
+}
+
+} // namespace levora::form_ba
