@@ -5,6 +5,7 @@
 #include "reports/preview_screens.h"
 #include "reports/print_dialog.h"
 #include "reports/report_source.h"
+#include "return/return_check_screen.h"
 #include "return/return_screen.h"
 #include "schedules/assets_screen.h"
 #include "widgets/value_text.h"
@@ -39,6 +40,7 @@ constexpr std::array screens{
     ScreenEntry{"frmImmovable", make_screen<schedules::frmImmovable>},
     ScreenEntry{"frmITMDIParent", make_screen<form_ba::frmITMDIParent>},
     ScreenEntry{"frmFormBA", make_screen<form_ba::frmFormBA>},
+    ScreenEntry{"frmReturnCheck", make_screen<form_ba::frmReturnCheck>},
     ScreenEntry{"frmPrint", make_screen<reports::frmPrint>},
     ScreenEntry{"frmRepPreview", make_screen<reports::frmRepPreview>},
     ScreenEntry{"frmSprPreview", make_screen<reports::frmSprPreview>},

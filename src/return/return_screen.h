@@ -1,6 +1,7 @@
 #pragma once
 
 #include "return/return_grids.h"
+#include "session/grid_sheet.h"
 #include "session/session_state.h"
 #include "widgets/fields.h"
 #include "widgets/grid.h"
@@ -212,6 +213,7 @@ private:
     void total_other_property();
     void mskOriFillDate_LostFocus();
     widgets::Grid* prepare_sheet();
+    void show_active_sheet(session::SheetUse use);
 
     // Runs one statement of a fill: see FillFromAssessee.
     using Step = std::function<void(const std::function<void()>&)>;

@@ -1,4 +1,5 @@
 #include "return/return_screen.h"
+#include "session/grid_sheet.h"
 #include "widgets/value_text.h"
 
 #include <optional>
@@ -10,8 +11,6 @@ namespace levora::form_ba {
 using widgets::Grid;
 
 namespace {
-
-constexpr int sheet_margin = 200; // as the print of a grid counts
 
 // The schedule's line behind the header, and where its footer takes the total from.
 struct ScheduleLine {
@@ -42,7 +41,7 @@ std::string footer_of(const std::string& amount) {
 
 // Gives the active grid its header, footer and fitted columns; null when there is no sheet to be had.
 Grid* frmFormBA::prepare_sheet() {
-    auto* const grid = dynamic_cast<Grid*>(active_control());
+    Grid* const grid = session::active_grid(*this);
     if (!grid) return nullptr;
     std::string header = "/n /n Assessee Name : " + txtFirstName.text() + " " + txtMiddleName.text() + " " +
                          txtName.text() + "/n /n A. Y.  : " + mskAY.text() + "/n /n Wealth Tax : Form BB" +
@@ -59,27 +58,26 @@ Grid* frmFormBA::prepare_sheet() {
         return nullptr;
     grid->print_header = header;
     grid->print_footer = footer;
-    grid->print_margin_left = sheet_margin;
-    grid->print_margin_top = sheet_margin;
     for (int column = 1; column <= grid->data_columns(); ++column)
         grid->set_column_width(column, grid->max_text_width(column));
     return grid;
 }
 
-void frmFormBA::preview_active_sheet() {
+// A sheet that can't be had, or a print that was cancelled, ends here without a word.
+void frmFormBA::show_active_sheet(session::SheetUse use) {
     try {
-        if (const Grid* grid = prepare_sheet()) session_.desk.preview_sheet(*grid);
+        if (Grid* const grid = prepare_sheet()) show_grid_sheet(session_, *grid, use);
     } catch (const Failure&) {
-        // A sheet that can't be had ends here without a word.
+        return;
     }
 }
 
+void frmFormBA::preview_active_sheet() {
+    show_active_sheet(session::SheetUse::preview);
+}
+
 void frmFormBA::print_active_sheet() {
-    try {
-        if (const Grid* grid = prepare_sheet()) session_.desk.print_sheet(*grid);
-    } catch (const Failure&) {
-        // So does a print that was cancelled.
-    }
+    show_active_sheet(session::SheetUse::print);
 }
 
 } // namespace levora::form_ba
