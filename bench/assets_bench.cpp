@@ -33,7 +33,7 @@ public:
 
     frmImmovable& screen() { return screens().get<frmImmovable>("frmImmovable"); }
     computation::frmWealthMain& sheet() { return screens().get<computation::frmWealthMain>("frmWealthMain"); }
-    void close() { screens().unload("frmImmovable"); }
+    void close() { screen().leave(); }
 
 private:
     widgets::Screens& screens() { return session_.screens; }

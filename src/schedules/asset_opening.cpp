@@ -80,7 +80,8 @@ const AssetParent& asset_parent(const session::Session& session) {
 }
 
 void show_assets_afresh(session::Session& session) {
-    if (session.screens.find("frmImmovable") != nullptr) session.screens.unload("frmImmovable");
+    if (session.screens.find("frmImmovable") != nullptr)
+        session.screens.get<frmImmovable>("frmImmovable").leave();
     session.screens.show("frmImmovable");
 }
 

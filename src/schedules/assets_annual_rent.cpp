@@ -105,10 +105,6 @@ void AnnualRentPanel::design_grid() {
 
 void AnnualRentPanel::connect() {
     sprAnnualRent.on_change = [this](int column, int row) { sprAnnualRent_Change(column, row); };
-    sprAnnualRent.on_button_click = [this](int column, int row) {
-        if (column == label_column && row == RentRow::repairs)
-            sprAnnualRent_Change(amount_column, RentRow::repairs);
-    };
     sprAnnualRent.on_key_down = [this](std::string_view key) {
         return clear_or_insert_key(sprAnnualRent, key);
     };

@@ -153,12 +153,17 @@ void frmImmovable::cmdOK_Click() {
             }
         }
     }
-    screens.unload(name());
+    leave();
 }
 
 void frmImmovable::cmdBusinessAsset_Click() {
     // Nothing is saved first: what was typed since the last OK is lost.
     session_.screens.show("frmBusinessAssets");
+    leave();
+}
+
+void frmImmovable::leave() {
+    leaving_ = true;
     session_.screens.unload(name());
 }
 

@@ -57,7 +57,12 @@ public:
     widgets::MenuItem mnuPrint;
 
     void Form_Load() override;
+    // Refuses the close box: OK and the business assets are the only ways out. With the sheet hidden
+    // behind it, nothing would be left on view.
+    bool Form_QueryUnload() override { return leaving_; }
     void Form_Unload() override;
+    // The program's own unloading, without a save.
+    void leave();
 
     // The schedule of a tab.
     [[nodiscard]] AssetSchedule& schedule(int tab);
@@ -91,6 +96,7 @@ private:
     void mnuDeleteColumn_Click();
     void sheet_of_active_grid(session::SheetUse use);
 
+    bool leaving_ = false;
     int property_count_ = 0;  // applied last
     int jewellery_count_ = 0; //
     int jewellery_current_column_ = 1;

@@ -23,6 +23,7 @@ same(screen.mnuContextMenu.visible, false)
 same(screen.mnuConxtRow.visible, false)
 same(screen.txtTotalNetAmount.locked, true)
 same(screen.txtNetBusinessAssets:type("5"), false, "the summary is read-only")
+same(screen:close(), false, "OK and the business assets are the only ways out")
 same(session("BusinessAssetFlag"), false)
 same(session("DeemedAssetFlag"), false)
 

@@ -49,7 +49,7 @@ TEST_F(AssetsScreenTest, TotalsReachTheSummaryInTheMainModeAloneJewelleryInEvery
         EXPECT_EQ(form.txtNetImmovableProperty.text() + " " + form.txtNetUrbanLand.text() + " " +
                       form.txtNetInterestInFirm.text() + " " + form.txtNetJewellery.text(),
                   each.summary);
-        screens.unload("frmImmovable");
+        assets().leave();
     }
 }
 
@@ -113,7 +113,7 @@ TEST_F(AssetsScreenTest, OpensTheTabOfARowAndLeavesItTheOnlyOneEnabled) {
         if (opens) {
             EXPECT_EQ(tabs(), each.tabs);
         }
-        screens.unload("frmImmovable");
+        assets().leave();
     }
 }
 
@@ -155,6 +155,7 @@ TEST_F(AssetsScreenTest, OkHandsTheOpenedTabsTotalToTheActiveRowOfItsParent) {
 
 TEST_F(AssetsScreenTest, BusinessAssetsComesUpWithoutASave) {
     own_properties("1");
+    EXPECT_FALSE(screens.close("frmImmovable")) << "no way out but the two buttons";
     EXPECT_TRUE(assets().cmdBusinessAsset.click());
     EXPECT_EQ(screens.find("frmImmovable"), nullptr);
     EXPECT_TRUE(screens.find("frmBusinessAssets")->visible());
@@ -250,7 +251,7 @@ TEST_F(AssetsScreenTest, LandSheetHasATotalRowOnlyThePreviewKeepsItAndCarriesThe
     const std::string title = "/n /n Assessee Name : A. Client/n /n A. Y.  : 2014-2015/n /nLand/n";
     EXPECT_EQ(shown, "print [] Total||900|200|700\npreview [" + title + "] Total||900|200|700\npreview [" +
                          title + "] Total||900|200|700\n");
-    screens.unload("frmImmovable");
+    assets().leave();
     EXPECT_EQ(session.SheetGridName, "") << "the next grid recomputes";
 }
 
