@@ -10,4 +10,8 @@ std::string asset_key(const session::Session& session) {
     return year_key(session) + " And AssetType = " + std::to_string(session.asset_type());
 }
 
+std::string property_key(const session::Session& session, int property_no) {
+    return asset_key(session) + " And PropertyNo = " + std::to_string(property_no);
+}
+
 } // namespace levora::schedules

@@ -43,5 +43,7 @@ protected:
 std::string year_key(const session::Session& session);
 // The same with " And AssetType = 0" behind it: main schedule 0, business assets 1, deemed assets 2.
 std::string asset_key(const session::Session& session);
+// The same with " And PropertyNo = 1" behind it: what is kept of one house property.
+std::string property_key(const session::Session& session, int property_no);
 
 } // namespace levora::schedules

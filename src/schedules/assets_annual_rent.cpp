@@ -46,7 +46,6 @@ constexpr std::array<RentItem, rent_rows> rent_items{{
 }};
 // clang-format on
 
-constexpr unsigned white_rgb = 0xFFFFFF;
 constexpr int label_column = 1;
 constexpr double label_width = 54; // the longest label in full
 constexpr int amount_column = 2;
@@ -62,10 +61,6 @@ std::vector<std::string> month_counts() {
     for (int months = 1; months <= 12; ++months)
         counts.push_back(number_text(months));
     return counts;
-}
-
-std::string rent_key(const session::Session& session, int property_no) {
-    return asset_key(session) + " And PropertyNo = " + std::to_string(property_no);
 }
 
 } // namespace
@@ -162,7 +157,7 @@ void AnnualRentPanel::cmdOKAnnualRent_Click() {
 void AnnualRentPanel::LoadAnnualRent() {
     procedure(session_, "frmImmovable - LoadAnnualRent", [this](const Attempt& attempt) {
         const int property_no = immovable_.sprImmovable.active_column() - 1;
-        session_.SqlText = "Select * From [Annual Rent] Where " + rent_key(session_, property_no);
+        session_.SqlText = "Select * From [Annual Rent] Where " + property_key(session_, property_no);
         const RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
         // Wanted: the grid is not cleared. A property without a row takes the figures of the property
         // shown last; clearing would lose the figures that a person copies from one to the next.
@@ -184,7 +179,7 @@ void AnnualRentPanel::LoadAnnualRent() {
 void AnnualRentPanel::SaveAnnualRent() {
     procedure(session_, "frmImmovable - SaveAnnualRent", [this](const Attempt& attempt) {
         const int property_no = immovable_.sprImmovable.active_column() - 1;
-        session_.SqlText = "Select * From [Annual Rent] Where " + rent_key(session_, property_no);
+        session_.SqlText = "Select * From [Annual Rent] Where " + property_key(session_, property_no);
         RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
         if (rows.eof()) {
             rows.add_new();

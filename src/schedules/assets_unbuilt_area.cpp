@@ -75,10 +75,6 @@ double percentage_of(std::span<const double> excess_and_aggregate) {
     return aggregate == 0 ? 0 : excess_and_aggregate[0] / aggregate * 100;
 }
 
-std::string plot_key(const session::Session& session, int property_no) {
-    return asset_key(session) + " And PropertyNo = " + std::to_string(property_no);
-}
-
 } // namespace
 
 UnbuiltAreaPanel::UnbuiltAreaPanel(widgets::Form& form, session::Session& session,
@@ -182,7 +178,7 @@ void UnbuiltAreaPanel::LoadUnbuiltArea() {
     procedure(session_, "frmImmovable - LoadUnbuiltArea", [this](const Attempt& attempt) {
         sprUnbuiltArea.clear_data();
         const int property_no = immovable_.sprImmovable.active_column() - 1;
-        session_.SqlText = "Select * From [Unbuilt Area] where " + plot_key(session_, property_no);
+        session_.SqlText = "Select * From [Unbuilt Area] where " + property_key(session_, property_no);
         const RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
         if (!rows.eof())
             for (const StoredArea& area : stored_areas)
@@ -194,7 +190,7 @@ void UnbuiltAreaPanel::LoadUnbuiltArea() {
 void UnbuiltAreaPanel::SaveUnbuiltArea() {
     procedure(session_, "frmImmovable - SaveUnbuiltArea", [this](const Attempt& attempt) {
         const int property_no = immovable_.sprImmovable.active_column() - 1;
-        session_.SqlText = "Select * From [Unbuilt Area] where " + plot_key(session_, property_no);
+        session_.SqlText = "Select * From [Unbuilt Area] where " + property_key(session_, property_no);
         RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
         if (rows.eof()) {
             rows.add_new();

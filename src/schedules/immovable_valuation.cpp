@@ -24,8 +24,6 @@ constexpr std::array tenures{
     Tenure{8, false},   // leasehold, less than 50 years
 };
 
-constexpr unsigned white_rgb = 0xFFFFFF;
-
 double not_below_zero(double amount) {
     return amount < 0 ? 0 : amount;
 }

@@ -90,6 +90,7 @@ inline const PropertyItem& property_item(int row) {
 }
 
 constexpr std::string_view details_caption = "Details";
+constexpr unsigned white_rgb = 0xFFFFFF; // the ground of a cell that is open to typing
 
 // Gives the grid its 32 rows: labels, kinds, lists, locks, grounds and notes.
 void design_property_grid(widgets::Grid& sprImmovable);
