@@ -28,9 +28,9 @@ struct TextLook {
     bool bold = false;
     bool italic = false;
     bool grey = false;
-    bool turned = false; // by 90 degrees, read from below
-    double letter_spacing = 0;
-    double line_height = 0; // 0 is the font's own
+    bool turned = false;       // by 90 degrees, read from below
+    double letter_spacing = 0; // percent of a character's width
+    double line_height = 0;    // 0 is the font's own
     Align align = Align::left;
     VerticalAlign vertical = VerticalAlign::middle;
     Fit fit = Fit::shrink;
@@ -110,8 +110,9 @@ struct Section {
 
 // A report as designed. Read from a file that a person can edit: see layout_file.h.
 struct Layout {
-    std::string name;  // "FormBB"
-    std::string title; // for the reader of a file
+    std::string name;   // "FormBB"
+    std::string title;  // of a file made of it
+    std::string author; // the object that holds its author's name; none when empty
     double page_width = 210;
     double page_height = 297;
     Box body;                  // on the page; sections flow down inside it

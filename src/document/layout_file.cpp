@@ -113,6 +113,14 @@ Section read_section(XmlNode& node) {
     return section;
 }
 
+bool has_object(const Layout& layout, const std::string& name) {
+    for (const Section& section : layout.sections)
+        for (const Block& block : section.blocks)
+            for (const Element& element : block.elements)
+                if (element.name == name) return true;
+    return false;
+}
+
 void refuse_doubles(const XmlNode& root, const Layout& layout) {
     std::set<std::string> objects;
     std::set<std::string> sections;
@@ -136,6 +144,7 @@ Layout read_report(XmlNode& root) {
     Layout layout;
     layout.name = root.needed("name");
     layout.title = root.text("title", layout.name);
+    layout.author = root.text("author");
     layout.body = {.left = x.from, .top = y.from, .right = x.to, .bottom = y.to};
     layout.margins_move = root.flag("margins-move");
     layout.one_page = root.flag("one-page");
@@ -147,6 +156,8 @@ Layout read_report(XmlNode& root) {
     }
     if (layout.sections.empty()) root.fault("has no section");
     refuse_doubles(root, layout);
+    if (!layout.author.empty() && !has_object(layout, layout.author))
+        root.fault("has no object \"" + layout.author + "\", which it names as \"author\"");
     return layout;
 }
 

@@ -1,6 +1,7 @@
 #include "script/report_calls.h"
 
 #include "document/report.h"
+#include "paper/report_paper.h"
 #include "reports/preview_screens.h"
 #include "script/lua_call.h"
 #include "script/script_host.h"
@@ -38,7 +39,13 @@ int rows(lua_State* state) {
     return 1;
 }
 
+int save(lua_State* state) {
+    paper::save_pdf(self_report(state), text_argument(state, 2));
+    return 0;
+}
+
 constexpr luaL_Reg methods[] = {
+    {"save", guarded<save>},
     {"text", guarded<text>},
     {"suppressed", guarded<suppressed>},
     {"rows", guarded<rows>},
@@ -59,6 +66,7 @@ constexpr ReportProperty properties[] = {
     {"copies", [](lua_State* state, const Report& report) { return push(state, report.copies); }},
     {"orientation",
      [](lua_State* state, const Report& report) { return push(state, name_of(report.orientation)); }},
+    {"pages", [](lua_State* state, const Report& report) { return push(state, paper::page_count(report)); }},
     {"papersize",
      [](lua_State* state, const Report& report) { return push(state, name_of(report.paper_size)); }},
 };

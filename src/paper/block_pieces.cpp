@@ -1,0 +1,208 @@
+#include "paper/bar_code.h"
+#include "paper/pieces.h"
+#include "paper/text_fit.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+namespace levora::paper {
+
+using document::Box;
+using document::Element;
+using document::ElementKind;
+using document::Fit;
+
+namespace {
+
+constexpr double edge_tolerance = 0.01; // millimetres
+
+QString text_of(const document::Report& report, const Element& element) {
+    const bool fixed = element.kind == ElementKind::text;
+    return QString::fromStdString(fixed ? element.text : report.text(element.name));
+}
+
+bool is_suppressed(const document::Report& report, const Element& element) {
+    return !element.name.empty() && report.suppressed(element.name);
+}
+
+bool grows(const Element& element) {
+    return element.kind == ElementKind::object && element.look.fit == Fit::grow;
+}
+
+// A growing text broken into its lines.
+struct Grown {
+    FontKey font;
+    QStringList lines;
+    double line_height = 0;
+};
+
+Grown grow(Fonts& fonts, const Element& element, const QString& text, const GrowthLimit& limit) {
+    Grown grown;
+    grown.font = font_key(element.look);
+    grown.font.size =
+        std::max(std::min(smallest_size, element.look.size), element.look.size - limit.smaller_by);
+    grown.lines = wrap(fonts, grown.font, text, element.box.width());
+    while (grown.lines.size() > limit.most_lines) {
+        const QString rest = grown.lines.takeLast();
+        grown.lines.last() += QLatin1Char(' ') + rest;
+    }
+    grown.line_height = fonts.line_height(grown.font);
+    return grown;
+}
+
+// Where the edges of a block come to lie when its rows grow: each row's lower edge and all that lies
+// below it move down by as much as the row's longest text needs.
+class Edges {
+public:
+    void grow_row(double lower_edge, double by) {
+        double& most = growth_[lower_edge];
+        most = std::max(most, by);
+    }
+    // An edge at or below a grown row's lower edge.
+    [[nodiscard]] double moved(double edge) const {
+        double shift = 0;
+        for (const auto& [lower_edge, by] : growth_)
+            if (lower_edge <= edge + edge_tolerance) shift += by;
+        return edge + shift;
+    }
+
+private:
+    std::map<double, double> growth_;
+};
+
+void draw_rule(const QRectF& box, const document::LineLook& look, Marks& marks) {
+    const bool upright = box.height() > box.width();
+    const QLineF line =
+        upright ? QLineF(box.topLeft(), box.bottomLeft()) : QLineF(box.topLeft(), box.topRight());
+    if (look.style != document::LineStyle::doubled) {
+        marks.emplace_back(LineMark{.line = line, .width = look.width, .style = look.style});
+        return;
+    }
+    constexpr double apart = 0.35; // of two lines, each side of the middle
+    for (const double side : {-apart, apart})
+        marks.emplace_back(LineMark{.line = line.translated(upright ? side : 0, upright ? 0 : side),
+                                    .width = look.width,
+                                    .style = document::LineStyle::solid});
+}
+
+void draw_tick(Fonts& fonts, const QRectF& box, const Element& element, const QString& text, Marks& marks) {
+    if (text.toStdString() != document::tick) return;
+    const FontKey font{.family = Family::ticks, .size = element.look.size};
+    const QString check(QChar(0x2713));
+    const double height = fonts.line_height(font);
+    // The mark reaches less high than the font: its own middle goes to the square's.
+    const double baseline = box.center().y() + fonts.ascent(font) - height / 2 - height * 0.03;
+    const double width = fonts.width(font, check);
+    marks.emplace_back(TextMark{.baseline = {box.center().x() - width / 2, baseline},
+                                .text = check,
+                                .font = font,
+                                .width = width,
+                                .grey = false,
+                                .turned = false,
+                                .clip = {}});
+}
+
+void draw_digits(Fonts& fonts, const QRectF& box, const Element& element, const QString& text, Marks& marks) {
+    QRectF square = box;
+    document::TextLook look = element.look;
+    look.align = document::Align::center;
+    for (qsizetype at = 0; at < std::min<qsizetype>(text.size(), element.count); ++at) {
+        place_text(fonts, square, look, text.mid(at, 1), marks);
+        square.translate(element.pitch, 0);
+    }
+}
+
+QString with_page_numbers(QString text, const PageNumber& number) {
+    return text.replace(QLatin1String("{pages}"), QString::number(number.pages))
+        .replace(QLatin1String("{page}"), QString::number(number.page));
+}
+
+} // namespace
+
+double SectionPieces::height() const {
+    double height = head.height;
+    for (const Piece& piece : pieces)
+        height += piece.height;
+    return height;
+}
+
+bool tighten(GrowthLimit& limit) {
+    constexpr double most_smaller = 7; // from 13 points down to the smallest size
+    if (limit.smaller_by < most_smaller) {
+        limit.smaller_by += size_step;
+        return true;
+    }
+    if (limit.most_lines <= 1) return false;
+    limit.most_lines = limit.most_lines > 100 ? 100 : limit.most_lines - 1;
+    return true;
+}
+
+Piece make_block(Fonts& fonts, const document::Report& report, const document::Block& block,
+                 const GrowthLimit& limit, const PageNumber& number) {
+    Edges edges;
+    std::map<const Element*, Grown> grown;
+    for (const Element& element : block.elements) {
+        if (!grows(element) || is_suppressed(report, element)) continue;
+        Grown lines = grow(fonts, element, text_of(report, element), limit);
+        const double more = static_cast<double>(lines.lines.size() - 1) * lines.line_height;
+        if (more > 0) {
+            edges.grow_row(element.box.bottom, more);
+            grown.emplace(&element, std::move(lines));
+        }
+    }
+
+    Piece piece;
+    piece.height = edges.moved(block.height);
+    for (const Element& element : block.elements) {
+        if (is_suppressed(report, element)) continue;
+        const Box& box = element.box;
+        const double top = edges.moved(box.top) == box.top ? box.top : edges.moved(box.top);
+        const bool stretches =
+            element.kind == ElementKind::frame || element.kind == ElementKind::rule || element.look.turned;
+        // Words keep their height at the top of a row that grows.
+        const double bottom = stretches ? edges.moved(box.bottom) : top + box.height();
+        const QRectF area(QPointF(box.left, top), QPointF(box.right, bottom));
+        switch (element.kind) {
+        case ElementKind::frame:
+            if (element.filled) piece.marks.emplace_back(FillMark{.area = area, .black = false});
+            if (element.line.style != document::LineStyle::none)
+                piece.marks.emplace_back(RectangleMark{.area = area, .width = element.line.width});
+            break;
+        case ElementKind::rule:
+            draw_rule(area, element.line, piece.marks);
+            break;
+        case ElementKind::text:
+            place_text(fonts, area, element.look, with_page_numbers(text_of(report, element), number),
+                       piece.marks);
+            break;
+        case ElementKind::object: {
+            const auto lines = grown.find(&element);
+            if (lines == grown.end()) {
+                place_text(fonts, area, element.look, text_of(report, element), piece.marks);
+                break;
+            }
+            const double height = fonts.line_height(lines->second.font);
+            double line_top = top + (box.height() - height) / 2;
+            for (const QString& line : lines->second.lines) {
+                place_line(fonts, {box.left, line_top, box.width(), height}, lines->second.font,
+                           element.look.align, line, piece.marks);
+                line_top += lines->second.line_height;
+            }
+            break;
+        }
+        case ElementKind::tick:
+            draw_tick(fonts, area, element, text_of(report, element), piece.marks);
+            break;
+        case ElementKind::digits:
+            draw_digits(fonts, area, element, text_of(report, element), piece.marks);
+            break;
+        case ElementKind::bar_code:
+            place_bar_code(area, report.text(element.name), piece.marks);
+            break;
+        }
+    }
+    return piece;
+}
+
+} // namespace levora::paper
