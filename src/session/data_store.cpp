@@ -91,11 +91,13 @@ int Connection::execute(std::string_view statement) {
     store.attach(translated.attached);
     PreparedStatement prepared = store.prepare(translated.text);
     if (!prepared) return 0;
-    if (!sqlite3_stmt_readonly(prepared.get())) store.begin();
+    const bool writes = sqlite3_stmt_readonly(prepared.get()) == 0;
+    if (writes) store.begin();
     const int before = sqlite3_total_changes(store.database());
     while (store.step(prepared.get())) {
     }
     prepared.reset();
+    if (writes) store.remember(translated.text, {});
     store.detach_all();
     return sqlite3_total_changes(store.database()) - before;
 }

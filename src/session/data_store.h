@@ -112,9 +112,9 @@ public:
     void commit();
     [[nodiscard]] bool in_transaction() const;
 
-    // A full or failing disk can make the store take back all rows of the transaction in hand. What
-    // still comes of the same save then fails in the same way, so that half of it never stands alone,
-    // until the event is over and this is called.
+    // A full or failing disk takes back all rows of the transaction in hand, so that half a save never
+    // stands alone. Trying the failing statement again brings the others back with it; commit() leaves
+    // them until then. This gives them up: the event is over.
     void forget_loss();
     // How long a store that another program keeps is waited for; 10 seconds unless told.
     void set_longest_wait(std::chrono::milliseconds longest_wait);

@@ -82,10 +82,15 @@ std::int64_t next_counter(OpenStore& store, const std::string& table, const std:
 void use_up_counter(OpenStore& store, const std::string& table, std::int64_t number) {
     const std::string name = as_literal(table);
     const std::string text = number_text(static_cast<double>(number));
-    store.run("UPDATE sqlite_sequence SET seq = " + text + " WHERE name = " + name + " COLLATE NOCASE");
-    if (sqlite3_changes(store.database()) == 0)
-        store.run("INSERT INTO sqlite_sequence (name, seq) SELECT name, " + text +
-                  " FROM sqlite_schema WHERE type = 'table' AND name = " + name + " COLLATE NOCASE");
+    std::string statement =
+        "UPDATE sqlite_sequence SET seq = max(seq, " + text + ") WHERE name = " + name + " COLLATE NOCASE";
+    store.run(statement);
+    if (sqlite3_changes(store.database()) == 0) {
+        statement = "INSERT INTO sqlite_sequence (name, seq) SELECT name, " + text +
+                    " FROM sqlite_schema WHERE type = 'table' AND name = " + name + " COLLATE NOCASE";
+        store.run(statement);
+    }
+    store.remember(statement, {});
 }
 
 } // namespace
@@ -123,7 +128,8 @@ void RowSet::State::insert_row(OpenStore& writing) {
             names += (names.empty() ? "" : ", ") + as_name(each);
             places += places.empty() ? "?" : ", ?";
         }
-        insertion = writing.prepare("INSERT INTO " + table + " (" + names + ") VALUES (" + places + ")");
+        insertion_text = "INSERT INTO " + table + " (" + names + ") VALUES (" + places + ")";
+        insertion = writing.prepare(insertion_text);
     }
     // A statement that has failed is made ready again; its failure is known already.
     sqlite3_reset(insertion.get());
@@ -132,6 +138,7 @@ void RowSet::State::insert_row(OpenStore& writing) {
     writing.step(insertion.get());
     sqlite3_reset(insertion.get());
     row_numbers.push_back(sqlite3_last_insert_rowid(writing.database()));
+    writing.remember(insertion_text, edited, row_numbers.back());
     rows.push_back(edited);
     current = rows.size() - 1;
 }
@@ -141,14 +148,17 @@ void RowSet::State::update_row(OpenStore& writing) {
     for (std::size_t i = 0; i < columns.size(); ++i)
         if (changed[i]) assignments += (assignments.empty() ? "" : ", ") + as_name(columns[i]) + " = ?";
     if (assignments.empty()) return;
-    const PreparedStatement statement =
-        writing.prepare("UPDATE " + table + " SET " + assignments + " WHERE rowid = ?");
-    int place = 0;
+    std::vector<Value> values;
     for (std::size_t i = 0; i < columns.size(); ++i)
-        if (changed[i]) bind_value(writing, statement.get(), ++place, edited[i]);
-    bind_value(writing, statement.get(), ++place, row_numbers[current]);
+        if (changed[i]) values.push_back(edited[i]);
+    values.emplace_back(row_numbers[current]);
+    const std::string text = "UPDATE " + table + " SET " + assignments + " WHERE rowid = ?";
+    const PreparedStatement statement = writing.prepare(text);
+    for (std::size_t i = 0; i < values.size(); ++i)
+        bind_value(writing, statement.get(), static_cast<int>(i) + 1, values[i]);
     writing.step(statement.get());
     if (sqlite3_changes(writing.database()) == 0) throw Failure(row_is_gone, "Record is deleted.");
+    writing.remember(text, std::move(values));
     rows[current] = edited;
 }
 

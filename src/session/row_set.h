@@ -25,6 +25,7 @@ struct RowSet::State {
     Editing editing = Editing::nothing;
     std::vector<Value> edited;
     std::vector<bool> changed;
+    std::string insertion_text;
     PreparedStatement insertion;
 
     [[nodiscard]] std::size_t column(std::string_view name) const;

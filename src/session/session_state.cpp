@@ -67,11 +67,8 @@ Session::Session(Surroundings surroundings)
         report_unanswered(*this, event, error);
     };
     screens.on_settled = [this] {
-        try {
-            commit_all();
-        } catch (const Failure& error) {
-            report_unanswered(*this, "Session - commit_all", error);
-        }
+        procedure(*this, "Session - commit_all",
+                  [this](const Attempt& attempt) { attempt([this] { commit_all(); }); });
         for (Connection* each : {&TaxDb, &AssesseeDb, &ITDb, &FormsDb})
             each->forget_loss();
     };

@@ -30,6 +30,31 @@ void check_file(const std::string& file) {
     if (::access(file.c_str(), R_OK) != 0) throw_file_fault(file, errno);
 }
 
+// A fault of disk or memory, no matter what the statement says: no part of a save may go down then.
+bool is_of_machine(int code) {
+    switch (code & 0xFF) {
+    case SQLITE_FULL:
+    case SQLITE_IOERR:
+    case SQLITE_NOMEM:
+    case SQLITE_CANTOPEN:
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+    case SQLITE_READONLY:
+    case SQLITE_PROTOCOL:
+    case SQLITE_INTERNAL:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// A journal that can't be made on a full disk is told by the machine only.
+bool is_full_disk(int code, int system_error) {
+    if ((code & 0xFF) == SQLITE_FULL) return true;
+    const bool of_file = (code & 0xFF) == SQLITE_CANTOPEN || (code & 0xFF) == SQLITE_IOERR;
+    return of_file && (system_error == ENOSPC || system_error == EDQUOT);
+}
+
 std::optional<Store> store_of_file(const std::string& file) {
     return store_of(std::filesystem::path(file).stem().string());
 }
@@ -73,9 +98,6 @@ void OpenStore::fail(int code) {
     const std::string text = database_ ? sqlite3_errmsg(database_.get()) : sqlite3_errstr(code);
     Failure failure(number, text);
     switch (code & 0xFF) {
-    case SQLITE_FULL:
-        failure = Failure(error_number::disk_full, file_ + ": the disk is full");
-        break;
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
         failure = Failure(number, file_ + ": " + text + ": another program keeps it for too long");
@@ -94,10 +116,12 @@ void OpenStore::fail(int code) {
     default:
         break;
     }
-    if (begun_ && !in_transaction()) {
-        begun_ = false;
-        gate_.leave();
-        loss_ = Failure(failure.number, std::string(failure.what()) + " (this save was taken back)");
+    if (is_full_disk(code, database_ ? sqlite3_system_errno(database_.get()) : 0))
+        failure = Failure(error_number::disk_full, file_ + ": the disk is full");
+    if (begun_ && (is_of_machine(code) || !in_transaction())) {
+        rollback();
+        lost_ = true;
+        throw Failure(failure.number, std::string(failure.what()) + " (nothing of this save is stored)");
     }
     throw failure;
 }
@@ -146,17 +170,12 @@ bool OpenStore::in_transaction() const {
     return database_ && sqlite3_get_autocommit(database_.get()) == 0;
 }
 
-void OpenStore::check_loss() {
-    if (loss_) throw Failure(*loss_);
-}
-
 void OpenStore::enter_gate() {
     if (!gate_.enter(longest_wait_))
         throw Failure(SQLITE_BUSY, file_ + ": database is locked: another program keeps it for too long");
 }
 
 void OpenStore::begin_if_writable() {
-    check_loss();
     try {
         begin();
     } catch (const Failure& failure) {
@@ -165,8 +184,16 @@ void OpenStore::begin_if_writable() {
 }
 
 void OpenStore::begin() {
-    check_loss();
-    if (in_transaction()) return;
+    if (in_transaction() && !lost_) return;
+    start_transaction();
+    if (!lost_) return;
+    for (const Written& each : written_)
+        write_again(each);
+    lost_ = false;
+}
+
+void OpenStore::start_transaction() {
+    if (lost_) rollback(); // should it still hang on
     enter_gate();
     try {
         run("BEGIN IMMEDIATE");
@@ -177,18 +204,48 @@ void OpenStore::begin() {
     begun_ = true;
 }
 
+void OpenStore::write_again(const Written& each) {
+    const PreparedStatement statement = prepare(each.text);
+    for (std::size_t i = 0; i < each.values.size(); ++i)
+        bind_value(*this, statement.get(), static_cast<int>(i) + 1, each.values[i]);
+    while (step(statement.get())) {
+    }
+    if (each.row_number == 0 || each.row_number == sqlite3_last_insert_rowid(database_.get())) return;
+    rollback();
+    throw Failure(SQLITE_ABORT, file_ + ": another program has changed these rows meanwhile "
+                                        "(nothing of this save is stored)");
+}
+
+void OpenStore::remember(std::string text, std::vector<Value> values, std::int64_t row_number) {
+    written_.push_back({std::move(text), std::move(values), row_number});
+}
+
+void OpenStore::forget_loss() {
+    if (!lost_) return;
+    rollback();
+    written_.clear();
+    lost_in_commit_ = false;
+    lost_ = in_transaction(); // without memory even this fails: then it is tried again
+}
+
 void OpenStore::commit() {
+    // A save that was broken off by the disk goes down whole, when its failing statement is tried
+    // again, or not at all.
+    if (lost_ && !lost_in_commit_) return;
+    if (lost_) begin();
     if (!in_transaction()) return;
+    lost_in_commit_ = true;
     run("COMMIT");
+    lost_in_commit_ = false;
+    written_.clear();
     begun_ = false;
     gate_.leave();
     detach_all();
 }
 
 void OpenStore::rollback() {
-    if (!in_transaction()) return;
     begun_ = false;
-    sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
+    if (in_transaction()) sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
     gate_.leave();
     detach_all();
 }

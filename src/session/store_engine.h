@@ -47,8 +47,12 @@ public:
     void attach(const std::vector<AttachedStore>& others);
     void detach_all();
 
-    // Starts the transaction in hand if there is none: waits for the gate.
+    // Starts the transaction in hand if there is none: waits for the gate. Rows of the same save that
+    // a failing disk has taken back are written anew first.
     void begin();
+    // Keeps what a statement of the transaction has written, for that case; the number of the row
+    // where it made one.
+    void remember(std::string text, std::vector<Value> values, std::int64_t row_number = 0);
     // The same, but a store that can't be written stays without: its rows can still be read.
     void begin_if_writable();
     // The turn alone, until this store is closed.
@@ -58,15 +62,21 @@ public:
     void rollback();
     [[nodiscard]] bool in_transaction() const;
 
-    // After the engine has taken written rows back by itself (full disk, failing disk), what still
-    // comes of the same save must not go down alone: it fails in the same way until this call.
-    void forget_loss() { loss_.reset(); }
+    // Gives up the rows of a save that a failing disk has taken back.
+    void forget_loss();
 
     [[noreturn]] void fail(int code);
 
 private:
+    struct Written {
+        std::string text;
+        std::vector<Value> values;
+        std::int64_t row_number;
+    };
+
     static int wait_while_busy(void* self, int attempts);
-    void check_loss();
+    void start_transaction();
+    void write_again(const Written& each);
 
     std::string file_;
     std::optional<Store> store_;
@@ -76,7 +86,11 @@ private:
     std::chrono::steady_clock::time_point busy_until_;
     std::vector<std::string> attached_;
     bool begun_ = false;
-    std::optional<Failure> loss_;
+    std::vector<Written> written_; // in the transaction in hand
+    // Set from the moment when written rows were taken back until they stand again. What still comes
+    // of the same save must not go down alone.
+    bool lost_ = false;
+    bool lost_in_commit_ = false; // then the transaction had been whole
 };
 
 Value column_value(sqlite3_stmt* statement, int column);

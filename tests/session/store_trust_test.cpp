@@ -1,0 +1,263 @@
+#include "session/common_services.h"
+#include "session/data_folder.h"
+#include "session/faulty_disk.h"
+#include "session/session_state.h"
+#include "session/store_check.h"
+#include "widgets/headless_desk.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <random>
+#include <thread>
+
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace levora::session {
+namespace {
+
+using testing::DataFolder;
+using testing::FaultyDisk;
+
+constexpr int rows_of_a_save = 6;
+
+// One save as the screens do it: a row updated in place, the rows of a grid replaced. Its figure
+// stands in every row, so that half a save shows.
+void save(Connection& tax, const Attempt& attempt, int assessee, int figure) {
+    const std::string key = " where AssesseeNo = " + std::to_string(assessee) + " And FY = '2014-2015'";
+    RowSet sheet =
+        attempt([&] { return tax.open_rows("Select * From NetWealthComputation" + key, RowSetUse::update); });
+    attempt([&] {
+        if (sheet.eof()) {
+            sheet.add_new();
+            sheet.set("AssesseeNo", assessee);
+            sheet.set("FY", "2014-2015");
+        }
+        sheet.set("LessDebt", figure);
+        sheet.update();
+    });
+    attempt([&] { tax.execute("Delete From PrePaidTaxes" + key); });
+    RowSet paid =
+        attempt([&] { return tax.open_rows("Select * From PrePaidTaxes" + key, RowSetUse::update); });
+    for (int row = 0; row < rows_of_a_save; ++row)
+        attempt([&] {
+            paid.add_new();
+            paid.set("AssesseeNo", assessee);
+            paid.set("FY", "2014-2015");
+            paid.set("BankBranchName", std::string(600, 'x')); // several pages
+            paid.set("Amount", figure);
+            paid.update();
+        });
+}
+
+// The figure of a whole save; -1 when what stands there is no whole one.
+int figure_in(const DataFolder& folder, int assessee) {
+    const std::string key = " WHERE AssesseeNo = " + std::to_string(assessee);
+    const StatementResult found =
+        folder.run(Store::tax, "SELECT LessDebt FROM NetWealthComputation" + key +
+                                   " UNION ALL SELECT Amount FROM PrePaidTaxes" + key);
+    if (found.rows.size() != rows_of_a_save + 1) return -1;
+    for (const auto& row : found.rows)
+        if (row[0].number() != found.rows[0][0].number()) return -1;
+    return static_cast<int>(found.rows[0][0].number());
+}
+
+// Presses the first button of so many boxes, and dismisses the others.
+class PressingDesk : public widgets::HeadlessDesk {
+public:
+    int presses = 0;
+
+    std::optional<widgets::Answer> show_message(const widgets::MessageBox& box) override {
+        if (presses-- > 0) queue_answer(box.buttons.front());
+        return HeadlessDesk::show_message(box);
+    }
+};
+
+// A program of its own with a person before it, who presses a button of every report, or dismisses it.
+struct Program {
+    explicit Program(const DataFolder& folder)
+        : settings(folder.path() + "/settings.toml"), session({desk, settings, folder.path(), "", "OFFICE"}) {
+        session.TaxDb.open(folder.connect_string(Store::tax));
+    }
+    void save_as_event(int assessee, int figure) {
+        session.screens.run_event("frmX - cmdSave_Click", [&] {
+            procedure(session, "frmX - Save",
+                      [&](const Attempt& attempt) { save(session.TaxDb, attempt, assessee, figure); });
+        });
+    }
+
+    PressingDesk desk;
+    Settings settings;
+    Session session;
+};
+
+class StoreTrustTest : public ::testing::Test {
+protected:
+    StoreTrustTest() {
+        folder.run(Store::assessee, "INSERT INTO AssesseeInfo (AssesseeNo) VALUES (1), (2), (3), (4), (5)");
+        Program(folder).save_as_event(1, 1);
+        EXPECT_EQ(figure_in(folder, 1), 1);
+    }
+
+    DataFolder folder;
+};
+
+TEST_F(StoreTrustTest, AFaultOfTheDiskAtAnyPointLeavesTheOldRowsOrTheNew) {
+    struct Case {
+        const char* why;
+        FaultyDisk::Fault fault;
+        FaultyDisk::Lasting lasting;
+        int presses; // of the report's button, before it is dismissed
+    };
+    constexpr Case cases[] = {
+        {"one operation fails", FaultyDisk::Fault::disk_error, FaultyDisk::Lasting::once, 0},
+        {"and the statement is tried again", FaultyDisk::Fault::disk_error, FaultyDisk::Lasting::once, 1},
+        {"a broken disk", FaultyDisk::Fault::disk_error, FaultyDisk::Lasting::from_then_on, 0},
+        {"which helps nothing", FaultyDisk::Fault::disk_error, FaultyDisk::Lasting::from_then_on, 2},
+        {"a full disk", FaultyDisk::Fault::disk_full, FaultyDisk::Lasting::from_then_on, 0},
+        {"room is made before the button", FaultyDisk::Fault::disk_full, FaultyDisk::Lasting::once, 1},
+    };
+    int figure = 1;
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.why);
+        bool reached_the_end = false;
+        for (int n = 1; !reached_the_end; ++n) {
+            ASSERT_LT(n, 500);
+            const int old_figure = figure_in(folder, 1);
+            ++figure;
+            std::size_t reports = 0;
+            {
+                Program program(folder);
+                program.desk.presses = each.presses;
+                FaultyDisk::fail_at(n, each.fault, each.lasting);
+                program.save_as_event(1, figure);
+                reached_the_end = !FaultyDisk::has_failed();
+                FaultyDisk::mend();
+                reports = program.desk.take_messages().size();
+            }
+            const int now = figure_in(folder, 1);
+            EXPECT_TRUE(now == old_figure || now == figure) << "operation " << n << " left " << now;
+            if (reports == 0) {
+                EXPECT_EQ(now, figure) << "operation " << n << ": nothing was told";
+            }
+            if (each.lasting == FaultyDisk::Lasting::once && each.presses > 0) {
+                EXPECT_EQ(now, figure) << "operation " << n << ": the button brings all rows back";
+            }
+        }
+    }
+    EXPECT_TRUE(find_faults(folder.path()).empty());
+}
+
+TEST_F(StoreTrustTest, MemoryThatRunsOutAnywhereLeavesTheOldRowsOrTheNew) {
+    int figure = 1;
+    bool reached_the_end = false;
+    for (int n = 1; !reached_the_end; n += 7) {
+        ASSERT_LT(n, 20000);
+        const int old_figure = figure_in(folder, 1);
+        ++figure;
+        {
+            Program program(folder);
+            FaultyDisk::fail_allocation_at(n);
+            program.save_as_event(1, figure);
+            reached_the_end = !FaultyDisk::has_failed();
+            FaultyDisk::mend();
+        }
+        const int now = figure_in(folder, 1);
+        EXPECT_TRUE(now == old_figure || now == figure) << "allocation " << n << " left " << now;
+    }
+}
+
+TEST_F(StoreTrustTest, APowerCutAtAnyPointLeavesTheOldRowsOrTheNew) {
+    int figure = 1;
+    bool reached_the_end = false;
+    for (int n = 1; !reached_the_end; ++n) {
+        ASSERT_LT(n, 500);
+        for (unsigned seed = 0; seed < 4; ++seed) {
+            const int old_figure = figure_in(folder, 1);
+            ++figure;
+            FaultyDisk::forget_files();
+            {
+                Program program(folder);
+                FaultyDisk::fail_at(n, FaultyDisk::Fault::power_cut, FaultyDisk::Lasting::from_then_on);
+                program.save_as_event(1, figure);
+                reached_the_end = !FaultyDisk::has_failed();
+            }
+            FaultyDisk::mend();
+            if (!reached_the_end)
+                FaultyDisk::leave_after_power_cut(folder.path(), seed + 4U * static_cast<unsigned>(n));
+            const int now = figure_in(folder, 1);
+            EXPECT_TRUE(now == old_figure || now == figure) << "operation " << n << " left " << now;
+        }
+    }
+    EXPECT_TRUE(find_faults(folder.path()).empty());
+}
+
+TEST_F(StoreTrustTest, AKillAtAnyMomentLeavesTheOldRowsOrTheNew) {
+    // Thousands by hand: LEVORA_KILLS=10000.
+    const char* told = std::getenv("LEVORA_KILLS");
+    const int kills = told ? std::atoi(told) : 500;
+    std::mt19937 random(20141231);
+    for (int i = 0; i < kills; ++i) {
+        const pid_t child = ::fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            Program program(folder);
+            for (int figure = 2;; ++figure)
+                program.save_as_event(1, figure);
+        }
+        ::usleep(static_cast<useconds_t>(1000 + random() % 9000));
+        ::kill(child, SIGKILL);
+        ::waitpid(child, nullptr, 0);
+        ASSERT_GT(figure_in(folder, 1), 0) << "after kill " << i;
+        if (i % 100 == 0) {
+            ASSERT_TRUE(find_faults(folder.path()).empty());
+        }
+    }
+    EXPECT_TRUE(find_faults(folder.path()).empty());
+}
+
+TEST_F(StoreTrustTest, SeveralProgramsSaveAtOnceAndNobodyIsTurnedAway) {
+    constexpr int programs = 5;
+    constexpr int saves = 60;
+    for (int number = 1; number <= programs; ++number) {
+        if (::fork() != 0) continue;
+        Program program(folder);
+        for (int i = 1; i <= saves; ++i) {
+            program.save_as_event(number, i);
+            program.save_as_event(1, number); // the same client in all programs
+        }
+        ::_exit(program.desk.take_messages().empty() ? 0 : 1);
+    }
+    for (int number = 1; number <= programs; ++number) {
+        int status = -1;
+        ::wait(&status);
+        EXPECT_EQ(status, 0) << "no report of a busy store";
+    }
+    for (int number = 2; number <= programs; ++number)
+        EXPECT_EQ(figure_in(folder, number), saves);
+    EXPECT_GT(figure_in(folder, 1), 0);
+    EXPECT_TRUE(find_faults(folder.path()).empty());
+}
+
+TEST_F(StoreTrustTest, AStoreThatIsKeptTooLongIsReportedAndTheButtonTriesAgain) {
+    Program keeper(folder);
+    keeper.session.TaxDb.execute("DELETE * FROM Enclosure");
+    Program program(folder);
+    program.session.TaxDb.set_longest_wait(std::chrono::milliseconds(20));
+    program.save_as_event(1, 2);
+    const auto shown = program.desk.take_messages();
+    ASSERT_EQ(shown.size(), 1U);
+    EXPECT_EQ(shown[0].box.text,
+              "5 " + folder.file(Store::tax) + ": database is locked: another program keeps it for too long");
+    EXPECT_EQ(figure_in(folder, 1), 1);
+    keeper.session.commit_all();
+    program.save_as_event(1, 3);
+    EXPECT_EQ(figure_in(folder, 1), 3);
+}
+
+[[maybe_unused]] const bool installed = (FaultyDisk::install(), true);
+
+} // namespace
+} // namespace levora::session
