@@ -136,6 +136,11 @@ void frmFormBA::Form_Load() {
     cmdSave.set_enabled(true);
 }
 
+// What was found in the return goes with it.
+void frmFormBA::Form_Unload() {
+    session_.screens.unload("frmReturnCheck");
+}
+
 int frmFormBA::tab_of(const Control& control) const {
     int tab = -1;
     for (const Control* each : controls()) {

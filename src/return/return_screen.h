@@ -31,6 +31,7 @@ public:
     explicit frmFormBA(session::Session& session);
 
     void Form_Load() override;
+    void Form_Unload() override;
 
     // The general fields from the assessee master and the bank rows. Reports its own errors.
     void FillFromAssessee();

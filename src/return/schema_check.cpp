@@ -65,35 +65,22 @@ int position_among_its_kind(const xmlNode* node) {
     return position;
 }
 
-// The local name in "... type '{http://...}pan'." at the end of a message.
-std::string type_in(std::string_view message) {
-    const std::size_t brace = message.rfind("}");
-    if (message.find("type '") == std::string_view::npos || brace == std::string_view::npos) return {};
-    const std::size_t end = message.find('\'', brace);
-    return end == std::string_view::npos ? std::string()
-                                         : std::string(message.substr(brace + 1, end - brace - 1));
-}
-
 struct Faults {
     std::vector<SchemaFault> list;
     const xmlNode* last = nullptr;
 };
 
-// The library tells the facet first and the type behind it: one fault for each element.
+// The library may tell a facet and the type behind it: one fault for each element.
 void note_fault(void* user, xmlErrorPtr error) {
     auto& faults = *static_cast<Faults*>(user);
     const auto* const node = static_cast<const xmlNode*>(error->node);
     if (!node || node->type != XML_ELEMENT_NODE) return;
-    const std::string type = type_in(error->message ? error->message : "");
-    if (node == faults.last) {
-        if (!type.empty()) faults.list.back().type = type;
-        return;
-    }
+    if (node == faults.last) return;
     faults.last = node;
     SchemaFault fault;
     fault.element = written_name(node);
     fault.value = XmlNode(node).text();
-    fault.type = type;
+    fault.misplaced = error->code == XML_SCHEMAV_ELEMENT_CONTENT;
     if (node->parent && node->parent->type == XML_ELEMENT_NODE) {
         fault.row_element = written_name(node->parent);
         fault.row = position_among_its_kind(node->parent);

@@ -12,7 +12,7 @@ namespace levora::form_ba {
 struct SchemaFault {
     std::string element; // as written: "FBAMain:PAN"
     std::string value;
-    std::string type;        // the schema's name for what the value should be; empty: out of its place
+    bool misplaced = false;  // the element itself can't stand there, whatever its value
     std::string row_element; // the element around it
     int row = 0;             // which of its kind that is, from 1
     int outer_row = 0;       // the same of the element around that

@@ -48,10 +48,8 @@ TEST_F(FillTest, IndividualComesFromTheMaster) {
                              "mskVerificationDate",
                              "mskValuationDate",
                              "txtMICRCode",
-                             "txtBankAccountNo"}) {
-        if (auto* field = dynamic_cast<widgets::TextField*>(f.find(name))) text += field->text() + "|";
-        if (auto* mask = dynamic_cast<widgets::MaskedField*>(f.find(name))) text += mask->text() + "|";
-    }
+                             "txtBankAccountNo"})
+        text += shown(f.find(name)) + "|";
     EXPECT_EQ(text,
               "2014-2015|AAAPL1234C|Asha|M|Rao|12||Pune|411001||020|9800000001|a@b.example|31/05/1960|W "
               "1|Asha M Rao|K Rao|AAAPL1234C|Pune|20/08/2014|31/03/2014|ABCD0123456|77|");

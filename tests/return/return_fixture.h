@@ -86,6 +86,16 @@ protected:
         return text;
     }
 
+    // What a field, list or tick box of any kind shows.
+    static std::string shown(const widgets::Control* control) {
+        if (const auto* field = dynamic_cast<const widgets::TextField*>(control)) return field->text();
+        if (const auto* mask = dynamic_cast<const widgets::MaskedField*>(control)) return mask->text();
+        if (const auto* list = dynamic_cast<const widgets::ListField*>(control)) return list->text();
+        if (const auto* tick = dynamic_cast<const widgets::TickBox*>(control))
+            return tick->ticked() ? "1" : "0";
+        return {};
+    }
+
     std::string message() {
         std::string text;
         for (const auto& each : desk_.take_messages())

@@ -1,0 +1,241 @@
+#include "complete_return.h"
+#include "return_fixture.h"
+
+#include <filesystem>
+
+namespace levora::form_ba::testing {
+namespace {
+
+constexpr const char* import_message =
+    "Levora Wealth Tax: Blank or Invalid XML file, could not load the file\n";
+
+class ReturnReadingTest : public ReturnTest {
+protected:
+    // Every field and every grid of the screen, one a line.
+    static std::string everything(const frmFormBA& f) {
+        std::string text;
+        for (const widgets::Control* each : f.controls()) {
+            const auto* const grid = dynamic_cast<const widgets::Grid*>(each);
+            text += each->name() + ": " + (grid ? "\n" + cells(*grid) : shown(each)) + "\n";
+        }
+        return text;
+    }
+    // The text with one line's wording replaced, which must be there.
+    static void replace(std::string& text, const std::string& old, const std::string& fresh) {
+        ASSERT_NE(text.find(old), std::string::npos) << old;
+        text.replace(text.find(old), old.size(), fresh);
+    }
+    // Imports a document of this content below FBAMain:Form_BA.
+    void import(const std::string& content) {
+        const char* const root =
+            "<FORMP2:Form xmlns:FORMP2='a' xmlns:FBAMain='b' xmlns:FormCommon='c' xmlns:FormBA='d'>"
+            "<FormBA:FormBA><FBAMain:Form_BA>";
+        import_bytes(root + content + "</FBAMain:Form_BA></FormBA:FormBA></FORMP2:Form>");
+    }
+    void import_bytes(const std::string& bytes) {
+        const std::string path = folder_.path() + "/in.xml";
+        std::ofstream(path, std::ios::binary) << bytes;
+        desk_.queue_file(path);
+        form().btnImport.click();
+    }
+};
+
+TEST_F(ReturnReadingTest, WorkingCopyBringsBackAllButTheToldLosses) {
+    type_complete_return(form());
+    form().cboReturnType.choose("Original"); // a revised copy has a name that is not looked for
+    std::string expected = everything(form());
+    form().cmdSave.click();
+    form().cmdClose.click();
+    EXPECT_EQ(form().lblFillFrom.caption(), "Filled from Saved Data");
+    EXPECT_EQ(form().lblFillFrom.forecolor(), 0xFF0000U);
+
+    replace(expected, "Rao & Sons", "Rao And Sons");
+    replace(expected, "txtReceiptNo: R/77", "txtReceiptNo: "); // only a revised return has them
+    replace(expected, "mskOriFillDate: 15/07/2014", "mskOriFillDate: __/__/____");
+    replace(expected, "|00123|", "|123|");
+    // A figure that was left open comes back as 0.
+    replace(expected, "Agra|UTTAR PRADESH|INDIA|||300||300|", "Agra|UTTAR PRADESH|INDIA|||300|0|300|");
+    replace(expected, "Cash-in-Hand|70||70", "Cash-in-Hand|70|0|70");
+    replace(expected, "Chain|Carat|3|2|Details|6|50||50|", "Chain|Carat|3|2|Details|6|50|0|50|");
+    replace(expected, "1|Opal|2.0|15\n2|Ruby|1|6\n1|Pearl|1|5\n", "1|Opal|2.0|15\n1|Pearl|1|5\n2|Ruby|1|6\n");
+    // A row without a name stays behind, the next one moves up.
+    replace(expected, "|||||0\nMinor|Son|AAAPM1234C|80|30|50\n", "Minor|Son|AAAPM1234C|80|30|50\n");
+    replace(expected, "Firm|Nagpur|", "Firm|AAAFL1234C|");
+    // Heads are grouped; numbers of the later heads lose their letters.
+    replace(expected,
+            "CommercialBuilding|90|Shop|12A|Mall|Ring Road|Camp|Pune|Maharashtra|INDIA|411002|9B\n"
+            "AgriculturalLand|10|Farm|3C||||Karad|Telangana|INDIA|415110|44/2\n",
+            "AgriculturalLand|10|Farm|3C||||Karad|Telangana|INDIA|415110|44/2\n"
+            "CommercialBuilding|90|Shop|12|Mall|Ring Road|Camp|Pune|Maharashtra|INDIA|411002|9\n");
+    EXPECT_EQ(everything(form()), expected);
+}
+
+TEST_F(ReturnReadingTest, ImportOfAFiledRevisedReturnIsAnOriginalOne) {
+    type_complete_return(form());
+    desk_.queue_file(folder_.path() + "/filed.xml");
+    form().btnGenerate.click();
+    form().lblFillFrom.set_caption("as it was");
+    desk_.queue_file(folder_.path() + "/filed.xml");
+    form().btnImport.click();
+    EXPECT_EQ(form().cboReturnType.text(), "Original");
+    EXPECT_EQ(form().txtReceiptNo.text(), "R/77");
+    EXPECT_EQ(form().txtAddress2.text(), "Caf\u00E9 Tower");
+    EXPECT_EQ(form().ReturnFilePath, folder_.path() + "/filed.xml");
+    EXPECT_EQ(form().lblFillFrom.caption(), "as it was");
+}
+
+TEST_F(ReturnReadingTest, ImportDialogStartsWhereTheSettingSays) {
+    settings_.write(session::registry::levora_iter, "e-Return File Path", "/returns");
+    form().txtName.set_text("Typed");
+    form().btnImport.click(); // dismissed: nothing is cleared
+    const auto dialogs = desk_.take_dialogs();
+    ASSERT_EQ(dialogs.size(), 1U);
+    EXPECT_EQ(dialogs[0].title + "|" + dialogs[0].folder + "|" + dialogs[0].extension,
+              "Select XML file.|/returns|.xml");
+    EXPECT_EQ(form().txtName.text(), "Typed");
+}
+
+TEST_F(ReturnReadingTest, ClearingGoesByTheName) {
+    frmFormBA& f = form();
+    f.mskPin.type("411001");
+    f.cboSex.choose("Male");
+    f.sprMovableProperty.type(movable_column::value, 1, "9");
+    f.txtTown.type("Pune");
+    f.ClearFormBA();
+    EXPECT_EQ(f.mskPin.text() + f.cboSex.text() + f.txtTown.text(), "411001Male");
+    EXPECT_EQ(f.sprMovableProperty.data_rows(), 0);
+    EXPECT_EQ(f.TotalValMovableProp.text(), "9"); // its name does not begin so
+}
+
+struct BrokenCase {
+    const char* why;
+    std::string bytes;
+};
+
+TEST_F(ReturnReadingTest, BrokenOrHostileFilesGetTheOneMessage) {
+    std::string deep;
+    for (int i = 0; i < 5000; ++i)
+        deep += "<a>";
+    const BrokenCase cases[] = {
+        {"blank", ""},
+        {"no XML", "PAN AAAPL1234C"},
+        {"an open element", "<a>"},
+        {"a bare <", "<a>1 < 2</a>"},
+        {"an undeclared prefix", "<FORMP2:Form/>"},
+        {"two roots", "<a/><b/>"},
+        {"too deep", deep},
+        {"a document type", "<!DOCTYPE a><a/>"},
+        {"a file from outside", "<!DOCTYPE a [<!ENTITY x SYSTEM 'file:///etc/passwd'>]><a>&x;</a>"},
+        {"a bomb", "<!DOCTYPE a [<!ENTITY x 'xxxxxxxxxx'><!ENTITY y '&x;&x;&x;&x;&x;'>]><a>&y;</a>"},
+        {"a nought byte", std::string("<a>\0</a>", 8)},
+    };
+    form().cboStatus.choose("Companies");
+    for (const BrokenCase& each : cases) {
+        SCOPED_TRACE(each.why);
+        form().txtName.set_text("Typed");
+        import_bytes(each.bytes);
+        EXPECT_EQ(message(), import_message);
+        EXPECT_EQ(form().txtName.text(), ""); // cleared before the file was looked at
+        EXPECT_EQ(form().cboStatus.text(), "Companies");
+    }
+    std::filesystem::create_directory(folder_.path() + "/folder.xml");
+    desk_.queue_file(folder_.path() + "/folder.xml");
+    form().btnImport.click();
+    EXPECT_EQ(message(), import_message);
+}
+
+TEST_F(ReturnReadingTest, BrokenWorkingCopyLeavesTheScreenEmpty) {
+    std::filesystem::create_directory(folder_.path() + "/ITR");
+    std::ofstream(folder_.path() + "/ITR/WT 1042 2014-2015") << "<FORMP2:Form";
+    run_assessee("INSERT INTO AssesseeInfo (AssesseeNo, LastName) VALUES (1042, 'Rao')");
+    EXPECT_EQ(form().lblFillFrom.caption(), "Filled from Saved Data");
+    EXPECT_EQ(message(), import_message);
+    EXPECT_EQ(form().txtName.text(), "");
+}
+
+TEST_F(ReturnReadingTest, AForeignRootReadsNothing) {
+    form().cboSex.choose("Male");
+    import_bytes("<Form><FormBA><Form_BA><PAN>AAAPL1234C</PAN></Form_BA></FormBA></Form>");
+    EXPECT_EQ(message(), "");
+    EXPECT_EQ(form().cboSex.text(), "Male");
+}
+
+struct FieldCase {
+    const char *why, *content, *field, *text;
+};
+const FieldCase field_cases[] = {
+    {"99 is OTHERS", "<FBAMain:Address><FormCommon:State>99</FormCommon:State></FBAMain:Address>", "cboState",
+     "OTHERS"},
+    {"a state that is not told is none", "<FBAMain:Address/>", "cboState", ""},
+    {"a state that does not exist changes nothing",
+     "<FBAMain:Address><FormCommon:State>77</FormCommon:State></FBAMain:Address>", "cboState", "GOA"},
+    {"no address leaves the state", "", "cboState", "GOA"},
+    {"the country is India", "<FBAMain:Address><FormCommon:country>1</FormCommon:country></FBAMain:Address>",
+     "cboCountry", "INDIA"},
+    {"the first day of all", "<FBAMain:DateOfBirth>0001-01-01</FBAMain:DateOfBirth>", "mskDOB", "01/01/0001"},
+    {"no date leaves the field", "<FBAMain:DateOfBirth>__/__/____</FBAMain:DateOfBirth>", "mskDOB",
+     "02/02/2002"},
+    {"a short verification date is refused",
+     "<FBAMain:declrn><FormCommon:VerificationDate>2014</FormCommon:VerificationDate></FBAMain:declrn>",
+     "mskVerificationDate", "20/08/2014"},
+    {"an open one empties the mask",
+     "<FBAMain:declrn><FormCommon:VerificationDate>__/__/____</FormCommon:VerificationDate></FBAMain:declrn>",
+     "mskVerificationDate", "__/__/____"},
+    {"no sex is female", "", "cboSex", "Female"},
+    {"code 25 is known", "<FBAMain:ReturnSection>25</FBAMain:ReturnSection>", "cboReturnCode",
+     "25- In response to notice u/s 17(1)"},
+    {"an unknown code is not", "<FBAMain:ReturnSection>26</FBAMain:ReturnSection>", "cboReturnCode",
+     "21- On or before due date u/s 14(1)"},
+    {"an amount comes as it is written", "<FBAMain:RefundAmount>1,5x</FBAMain:RefundAmount>",
+     "txtRefundAmount", "1,5x"},
+    {"a later write has the last word",
+     "<FBAMain:TotalTaxIntPayable>70</FBAMain:TotalTaxIntPayable><FBAMain:BalTaxAndIntPayable>1</"
+     "FBAMain:BalTaxAndIntPayable><FBAMain:TaxPayment><FBAMain:DepositAmount>20</FBAMain:DepositAmount></"
+     "FBAMain:TaxPayment>",
+     "txtAmtPayable", "50"},
+    {"deposits come as they are written",
+     "<FBAMain:SchOtherProperties><FBAMain:DepositBank>1x</FBAMain:DepositBank></FBAMain:SchOtherProperties>",
+     "txtMovTotalDeposit", "1x"},
+    {"bonds through the reading of numbers",
+     "<FBAMain:SchOtherProperties><FBAMain:InvestBond>1x</FBAMain:InvestBond></FBAMain:SchOtherProperties>",
+     "txtMovAmtBondInvestment", "1"},
+};
+
+TEST_F(ReturnReadingTest, Fields) {
+    for (const FieldCase& each : field_cases) {
+        SCOPED_TRACE(each.why);
+        restart();
+        frmFormBA& f = form();
+        f.cboState.choose("GOA");
+        f.mskDOB.type("02/02/2002");
+        import(each.content);
+        EXPECT_EQ(shown(f.find(each.field)), each.text);
+    }
+}
+
+TEST_F(ReturnReadingTest, StonesAreCountedThroughTheDocument) {
+    const std::string stone = "<FBAMain:SchJewelStones/>";
+    const std::string open = "<FBAMain:SchJewellery>", close = "</FBAMain:SchJewellery>";
+    import(open + stone + stone + close + open + stone + close);
+    EXPECT_EQ(cells(form().sprPreciousStone), "1|||0\n1|||0\n2|||0\n");
+    EXPECT_EQ(form().sprPreciousStone.rows(), 4); // an empty row follows the last
+}
+
+TEST_F(ReturnReadingTest, WantedFirmTotalIsTheGridsWhateverTheFileSays) {
+    import("<FBAMain:SchFirmAop><FBAMain:ValOfAssesseeFirmAsset>9</FBAMain:ValOfAssesseeFirmAsset>"
+           "</FBAMain:SchFirmAop><FBAMain:TotalValFirmAssets>500</FBAMain:TotalValFirmAssets>");
+    EXPECT_EQ(form().txtTotalInterestAmount.text(), "9");
+}
+
+TEST_F(ReturnReadingTest, ManyRowsMakeTheGridGrow) {
+    std::string rows;
+    for (int i = 1; i <= 20; ++i)
+        rows += "<FBAMain:ExemptAssetDetail><FBAMain:ExemptAssetValue>" + std::to_string(i) +
+                "</FBAMain:ExemptAssetValue></FBAMain:ExemptAssetDetail>";
+    import(rows);
+    EXPECT_EQ(form().sprAssetsClaimedExempt.rows(), 21);
+    EXPECT_EQ(form().sprAssetsClaimedExempt.text(exempt_column::value, 20), "20");
+}
+
+} // namespace
+} // namespace levora::form_ba::testing
