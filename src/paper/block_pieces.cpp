@@ -52,9 +52,18 @@ Grown grow(Fonts& fonts, const Element& element, const QString& text, const Grow
 }
 
 // Where the edges of a block come to lie when its rows grow: each row's lower edge and all that lies
-// below it move down by as much as the row's longest text needs.
+// below it move down by as much as the row's longest text needs. Free room at the block's foot is used
+// up first, before the edges beyond its contents move.
 class Edges {
 public:
+    explicit Edges(const document::Block& block) {
+        for (const Element& element : block.elements)
+            if (element.kind != ElementKind::frame && element.kind != ElementKind::rule &&
+                !element.look.turned)
+                contents_ = std::max(contents_, element.box.bottom);
+        spare_ = std::max(0.0, block.height - contents_);
+    }
+
     void grow_row(double lower_edge, double by) {
         double& most = growth_[lower_edge];
         most = std::max(most, by);
@@ -64,11 +73,13 @@ public:
         double shift = 0;
         for (const auto& [lower_edge, by] : growth_)
             if (lower_edge <= edge + edge_tolerance) shift += by;
-        return edge + shift;
+        return edge > contents_ + edge_tolerance ? edge + std::max(0.0, shift - spare_) : edge + shift;
     }
 
 private:
     std::map<double, double> growth_;
+    double contents_ = 0;
+    double spare_ = 0;
 };
 
 void draw_rule(const QRectF& box, const document::LineLook& look, Marks& marks) {
@@ -140,7 +151,7 @@ bool tighten(GrowthLimit& limit) {
 
 Piece make_block(Fonts& fonts, const document::Report& report, const document::Block& block,
                  const GrowthLimit& limit, const PageNumber& number) {
-    Edges edges;
+    Edges edges(block);
     std::map<const Element*, Grown> grown;
     for (const Element& element : block.elements) {
         if (!grows(element) || is_suppressed(report, element)) continue;
@@ -157,7 +168,7 @@ Piece make_block(Fonts& fonts, const document::Report& report, const document::B
     for (const Element& element : block.elements) {
         if (is_suppressed(report, element)) continue;
         const Box& box = element.box;
-        const double top = edges.moved(box.top) == box.top ? box.top : edges.moved(box.top);
+        const double top = edges.moved(box.top);
         const bool stretches =
             element.kind == ElementKind::frame || element.kind == ElementKind::rule || element.look.turned;
         // Words keep their height at the top of a row that grows.

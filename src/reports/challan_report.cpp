@@ -192,8 +192,6 @@ std::shared_ptr<document::Report> make_challan_report(session::Session& session)
 }
 
 void preview_challan(session::Session& session) {
-    widgets::Form& form = session.screens.load(screen);
-    form.set_busy(true);
     session::procedure(
         session, "frmChallan282 - cmdPreview_Click", [&session](const session::Attempt& attempt) {
             session.ChallanReport.reset();
@@ -208,7 +206,6 @@ void preview_challan(session::Session& session) {
                 attempt([&] { return margin("Challan282 Left Margin"); });
             session::PreviewForm(session);
         });
-    form.set_busy(false);
 }
 
 } // namespace levora::reports

@@ -203,6 +203,11 @@ void frmFormBA::connect_buttons() {
     btnGenerate.on_click = [this] { btnGenerate_Click(); };
     btnImport.on_click = [this] { btnImport_Click(); };
     cmdValidatitor.on_click = [this] { cmdValidatitor_Click(); };
+    cmdPreview.on_click = [this] {
+        if (const auto report = session_.paper.find("FormBB"); report != session_.paper.end())
+            report->second();
+    };
+    cmdPrint.on_click = [this] { cmdPrint_Click(); };
     cmdClose.on_click = [this] { cmdClose_Click(); };
     cmdOK.on_click = [this] { frPreciousStone.set_visible(false); };
     sprJewellery.on_button_click = [this](int, int) {
@@ -218,6 +223,20 @@ void frmFormBA::cmdFillFromComputation_Click() {
     lblFillFrom.set_forecolor(blue_rgb);
     FillFromAssessee();
     FillFromSchedules();
+}
+
+void frmFormBA::cmdPrint_Click() {
+    // Wanted: the report of a failure carries another screen's name.
+    session::procedure(session_, "frmForm2D - cmdPrint_Click", [this](const session::Attempt& attempt) {
+        session_.PrintSource = 2; // the return
+        attempt([this] {
+            try {
+                session_.screens.show("frmPrint", widgets::Showing::modal);
+            } catch (const Failure& error) {
+                if (error.number != error_number::printer_cancelled) throw;
+            }
+        });
+    });
 }
 
 void frmFormBA::cmdClose_Click() {

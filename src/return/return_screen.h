@@ -191,8 +191,7 @@ public:
     // --- below the tabs ---
     widgets::Button cmdFillFromComputation{*this, "cmdFillFromComputation", "Fill From Computation"};
     widgets::Button cmdSave{*this, "cmdSave", "&Save"};
-    // Form BB answers these two: its report is filled and shown outside this room, which leaves their
-    // on_click to it.
+    // Form BB: its report is filled and shown outside this room, through the session's paper.
     widgets::Button cmdPreview{*this, "cmdPreview", "Pre&view"};
     widgets::Button cmdPrint{*this, "cmdPrint", "&Print"};
     widgets::Button btnGenerate{*this, "btnGenerate", "e-Return"};
@@ -235,6 +234,7 @@ private:
     void btnGenerate_Click();
     void btnImport_Click();
     void cmdValidatitor_Click();
+    void cmdPrint_Click();
     void cmdClose_Click();
 };
 
