@@ -142,6 +142,7 @@ private:
     void show_row(const session::RowSet& row);
     void show_options(const session::RowSet& row);
     void list_saved_challan();
+    [[nodiscard]] int listed_row() const; // of the challan on the screen, -1 when none
 
     bool ChallanDirty = false;  // something changed since the last load, clear or save
     int ListRow = -1;           // of cboChallanList: the challan now shown, -1 when none

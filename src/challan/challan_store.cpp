@@ -29,6 +29,8 @@ std::string whole_text(const Value& value) {
     return value.is_null() ? std::string() : number_text(round_half_even(value.number()));
 }
 
+constexpr int key_column = 4; // of cboChallanList
+
 // The address columns of the assessee: at home, or else in the office.
 struct AddressColumns {
     const char *first, *second, *third, *city, *pin, *state;
@@ -217,10 +219,17 @@ void frmChallan282::list_saved_challan() {
         cboChallanList.add_row(std::move(cells));
         return;
     }
-    // After New no row is shown, and none is rewritten.
-    if (ListRow < 0 || ListRow >= cboChallanList.count()) return;
-    for (int column = 0; column < cboChallanList.columns(); ++column)
-        cboChallanList.set_cell(ListRow, column, std::move(cells[static_cast<std::size_t>(column)]));
+    const int row = listed_row();
+    for (int column = 0; row >= 0 && column < cboChallanList.columns(); ++column)
+        cboChallanList.set_cell(row, column, std::move(cells[static_cast<std::size_t>(column)]));
+}
+
+int frmChallan282::listed_row() const {
+    if (ListRow >= 0 && ListRow < cboChallanList.count()) return ListRow;
+    // After New no row is shown, yet the challan last loaded may have been overwritten.
+    for (int row = 0; row < cboChallanList.count(); ++row)
+        if (cboChallanList.cell(row, key_column) == number_text(ChallanID)) return row;
+    return -1;
 }
 
 Answer frmChallan282::ask_to_save(const char* title) {
@@ -250,7 +259,7 @@ void frmChallan282::cboChallanList_Click() {
     const int row = cboChallanList.index();
     if (row == ListRow) return;
     if (row != -1) {
-        ChallanID = to_long(cboChallanList.cell(row, 4));
+        ChallanID = to_long(cboChallanList.cell(row, key_column));
         LoadChallan();
         ChallanDirty = false;
     }

@@ -91,12 +91,21 @@ TEST_F(ChallanTest, OverwritingMeansTheChallanOnTheScreen) {
                       "2014-2015|15/09/2014|SA Tax|300|2\n");
     EXPECT_EQ(amounts(), "300 0 0 0 0 0 = 300");
 
+    // After New it is still the one last loaded.
+    screen().cmdNew.click();
+    screen().mskChallanDate.type("15/09/2014");
+    desk.queue_answer(Answer::yes);
+    screen().cmdSave.click();
+    EXPECT_EQ(list(), "2014-2015|15/09/2014|SA Tax|100|1\n"
+                      "2014-2015|15/09/2014|SA Tax|0|2\n");
+    screen().txtIncomeTax.type("300");
+
     // No adds, and so does a dismissed question.
     desk.queue_answer(Answer::no);
     screen().cmdSave.click();
     screen().cmdSave.click();
     EXPECT_EQ(data.rows(Store::forms, "SELECT ChallanID, Total FROM Challan ORDER BY ChallanID"),
-              "1|100; 2|300; 3|300; 4|300");
+              "1|100; 2|0; 3|300; 4|300");
     EXPECT_EQ(screen().cboChallanList.index(), 3);
 }
 
