@@ -8,6 +8,9 @@
 #include "return/return_check_screen.h"
 #include "return/return_screen.h"
 #include "schedules/assets_screen.h"
+#include "schedules/business_assets.h"
+#include "schedules/deemed_assets.h"
+#include "schedules/exempted_assets.h"
 #include "widgets/value_text.h"
 
 #include <array>
@@ -38,6 +41,9 @@ constexpr std::array screens{
     ScreenEntry{"frmWealthMain", make_screen<computation::frmWealthMain>},
     ScreenEntry{"frmChallan282", make_screen<challan::frmChallan282>},
     ScreenEntry{"frmImmovable", make_screen<schedules::frmImmovable>},
+    ScreenEntry{"frmBusinessAssets", make_screen<schedules::frmBusinessAssets>},
+    ScreenEntry{"frmDeemedAsset", make_screen<schedules::frmDeemedAsset>},
+    ScreenEntry{"frmAssetExempt", make_screen<schedules::frmAssetExempt>},
     ScreenEntry{"frmITMDIParent", make_screen<form_ba::frmITMDIParent>},
     ScreenEntry{"frmFormBA", make_screen<form_ba::frmFormBA>},
     ScreenEntry{"frmReturnCheck", make_screen<form_ba::frmReturnCheck>},

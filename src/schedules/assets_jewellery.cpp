@@ -1,29 +1,180 @@
 #include "schedules/assets_jewellery.h"
 
 #include "schedules/assets_screen.h"
+#include "schedules/running_total.h"
+#include "schedules/schedule_field.h"
+
+#include <array>
+#include <string>
 
 namespace levora::schedules {
+
+using session::Attempt;
+using session::RowSet;
+using session::RowSetUse;
+using session::Value;
+using widgets::CellDesign;
+
+namespace {
+
+CellDesign description() {
+    return widgets::text_cell(1000);
+}
+CellDesign unit_list() {
+    return widgets::combo_cell({"Milligrams", "Grams", "Pound", "Kilograms", "Quintal", "Ton", "Carat"}, 0);
+}
+CellDesign weight() {
+    return widgets::number_cell(0, 99999999.99, 2);
+}
+CellDesign details() {
+    return widgets::button_cell(std::string(stones_caption));
+}
+CellDesign amount() {
+    return widgets::number_cell(-9999999999999.99, 9999999999999.99, 2, true);
+}
+CellDesign valuer_name() {
+    return widgets::text_cell(200);
+}
+CellDesign valuer_number() {
+    return widgets::text_cell(100);
+}
+CellDesign report_date() {
+    return widgets::date_cell({1990, 1, 1}, {2100, 12, 31});
+}
+
+// A row of sprJewellary is a field of an item. The texts of the values of stones and of the net amount
+// are stored as they stand.
+// clang-format off
+constexpr std::array<ScheduleField, jewellery_rows> fields{{
+    {"Description of item",               description,   FieldGround::plain, FieldStore::text, "ItemDesc"},
+    {"Unit",                              unit_list,     FieldGround::plain, FieldStore::text, "Unit"},
+    {"Gross Weight",                      weight,        FieldGround::plain, FieldStore::amount, "GrossWeight"},
+    {"Net Weight of Precious Metal",      weight,        FieldGround::plain, FieldStore::amount, "NetWeight"},
+    {"Description and Weight of Precious or Semi-Precious Stones", details, FieldGround::plain, FieldStore::text, "DescAndWeiOfPreAndSemiPreStones"},
+    {"Value of each precious or semi precious stone total value of all such stones", amount, FieldGround::plain, FieldStore::text, "ValOfPreAndSemiPreStones"},
+    {"Total value of jewellery as per Schedule III", amount, FieldGround::plain, FieldStore::amount, "TotalValOfJewellery"},
+    {"Debt owed in relation to the jewellery", amount,   FieldGround::plain, FieldStore::amount, "DebtOwned"},
+    {"Net amount (6-7)",                  amount,        FieldGround::grey,  FieldStore::text, "NetAmt"},
+    {"Name of Registered Valuer",         valuer_name,   FieldGround::plain, FieldStore::text, "NameRegValuer"},
+    {"Registration Number of Valuer",     valuer_number, FieldGround::plain, FieldStore::text, "RegNoValuer"},
+    {"Date of Report by Valuer",          report_date,   FieldGround::plain, FieldStore::text, "DateofReportByValuer"},
+}};
+// clang-format on
+
+constexpr int columns_at_first = 2; // the labels and one item
+constexpr int label_column = 1;
+constexpr double label_width = 62; // the longest label in full
+
+const ScheduleField& field_of(int row) {
+    return fields[static_cast<std::size_t>(row - 1)];
+}
+
+} // namespace
 
 JewellerySchedule::JewellerySchedule(frmImmovable& form, session::Session& session)
     : AssetSchedule(form, session), Frame_4(form, "Frame_4", "Schedule JE:- Jewellery , etc.referred"),
       cboNumberOfJewellery(form, "cboNumberOfJewellery", widgets::ListStyle::editable,
                            "Number Of Jewellery Items"),
-      sprJewellary(form, "sprJewellary", 2, 12),
+      sprJewellary(form, "sprJewellary", columns_at_first, jewellery_rows,
+                   "Schedule JE:- Jewellery , etc.referred"),
       txtAggNetAmt(form, "txtAggNetAmt", "Aggregate net amount of all jewellery, etc. from 8"),
-      frPreciousStone(form, "frPreciousStone", "Description of Precious and Semi-precious Stones"),
-      lblJR(form, "lblJR", ""), sprPreciousStone(form, "sprPreciousStone", 3, 10),
-      txtTotal(form, "txtTotal", "Total"), btnOK(form, "btnOK", "OK") {
-    frPreciousStone.set_visible(false);
+      stones(form, session, *this) {
+    design();
+    sprJewellary.on_change = [this](int column, int row) { sprJewellary_Change(column, row); };
+    sprJewellary.on_button_click = [this](int column, int) { stones.open(column); };
 }
 
-void JewellerySchedule::load(const session::Attempt&) {}
+void JewellerySchedule::design() {
+    txtAggNetAmt.set_locked(true);
+    sprJewellary.tag = "Jewellery";
+    sprJewellary.set_header(label_column, "Description");
+    sprJewellary.set_header(first_jewellery_column, "Jewellary 1");
+    sprJewellary.set_column_width(label_column, label_width);
+    sprJewellary.set_column_locked(label_column, true);
+    sprJewellary.set_column_backcolor(label_column, widgets::grey_rgb);
+    for (int row = 1; row <= jewellery_rows; ++row) {
+        sprJewellary.set_label(label_column, row, std::string(field_of(row).header));
+        sprJewellary.design_row(row, field_of(row).design(), first_jewellery_column);
+        if (field_of(row).ground == FieldGround::grey)
+            sprJewellary.set_cell_backcolor(first_jewellery_column, row, widgets::grey_rgb);
+    }
+}
 
-void JewellerySchedule::save(const session::Attempt&) {}
+void JewellerySchedule::sprJewellary_Change(int, int) {
+    // Wanted: the active cell decides, not the one that changed; a figure that came with a load keeps
+    // the net amount that was stored beside it.
+    const int column = sprJewellary.active_column();
+    const int row = sprJewellary.active_row();
+    if (row == JewelleryRow::value || row == JewelleryRow::debt)
+        sprJewellary.set_value(column, JewelleryRow::net,
+                               sprJewellary.value(column, JewelleryRow::value) -
+                                   sprJewellary.value(column, JewelleryRow::debt));
+    RunningTotal total;
+    const int last = sprJewellary.data_columns();
+    for (int item = first_jewellery_column; item <= last; ++item)
+        total.add(sprJewellary.value(item, JewelleryRow::net));
+    txtAggNetAmt.set_text("0");
+    txtAggNetAmt.set_text(total.text());
+}
+
+void JewellerySchedule::load(const Attempt& attempt) {
+    // Wanted: as many columns as the other grid has, less one; items past them stay until a record
+    // takes their place.
+    const int last_cleared = form_.immovable.sprImmovable.columns() - 1;
+    sprJewellary.clear_data({first_jewellery_column, 1, last_cleared, sprJewellary.rows()});
+    session_.SqlText = "Select * From [jewellery] where " + year_key(session_) + " Order By JwelleryNo";
+    RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
+    int column = first_jewellery_column;
+    for (; !records.eof(); records.move_next()) {
+        fill_item(column, records);
+        // The count runs one ahead of the records, so that the next one finds its column.
+        cboNumberOfJewellery.set_text(number_text(column));
+        ++column;
+    }
+    cboNumberOfJewellery.set_text(number_text(column - first_jewellery_column));
+    sprJewellary_Change(first_jewellery_column, 1);
+}
+
+void JewellerySchedule::fill_item(int column, const RowSet& record) {
+    for (int row = 1; row <= jewellery_rows; ++row) {
+        const std::string stored = record[field_of(row).stored_as].text();
+        const bool no_stones = row == JewelleryRow::stones && stored == "0";
+        sprJewellary.set_text(column, row, no_stones ? std::string(stones_caption) : stored);
+    }
+}
+
+void JewellerySchedule::save(const Attempt& attempt) {
+    session_.SqlText = "Delete From [jewellery] where " + year_key(session_);
+    attempt([&] { session_.TaxDb.execute(session_.SqlText); });
+    session_.SqlText = "Select * From [jewellery] where " + year_key(session_);
+    RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
+    const int last = sprJewellary.data_columns();
+    for (int column = first_jewellery_column; column <= last; ++column) {
+        // Wanted: an item is known by its description; one without is not stored, whatever its value.
+        if (sprJewellary.text(column, JewelleryRow::description).empty()) continue;
+        records.add_new();
+        store_item(records, column);
+        attempt([&] { records.update(); });
+    }
+}
+
+void JewellerySchedule::store_item(RowSet& record, int column) const {
+    record.set("AssesseeNo", session_.AssesseeNo);
+    record.set("FY", session_.CurrentFY);
+    record.set("JwelleryNo", column - 1);
+    for (int row = 1; row <= jewellery_rows; ++row) {
+        const ScheduleField& field = field_of(row);
+        if (field.store == FieldStore::amount)
+            record.set(field.stored_as, sprJewellary.value(column, row));
+        else if (row == JewelleryRow::stones && sprJewellary.text(column, row) == stones_caption)
+            record.set(field.stored_as, 0);
+        else
+            record.set(field.stored_as, sprJewellary.text(column, row));
+    }
+}
 
 std::string JewellerySchedule::value_for_parent() const {
     return txtAggNetAmt.text();
 }
-
-void JewellerySchedule::sprJewellary_Change(int, int) {}
 
 } // namespace levora::schedules

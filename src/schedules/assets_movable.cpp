@@ -1,20 +1,118 @@
 #include "schedules/assets_movable.h"
 
 #include "schedules/assets_screen.h"
+#include "schedules/grid_keys.h"
+#include "schedules/schedule_field.h"
+
+#include <array>
 
 namespace levora::schedules {
 
-MovableSchedule::MovableSchedule(frmImmovable& form, session::Session& session)
-    : AssetSchedule(form, session), Frame1(form, "Frame1"), sprMovableProp(form, "sprMovableProp", 4, 4) {}
+using session::Attempt;
+using session::RowSet;
+using session::RowSetUse;
+using widgets::CellDesign;
 
-void MovableSchedule::load(const session::Attempt&) {}
+namespace {
 
-void MovableSchedule::save(const session::Attempt&) {}
-
-std::string MovableSchedule::value_for_parent() const {
-    return number_text(sprMovableProp.value(4, 4));
+CellDesign label() {
+    return widgets::text_cell();
+}
+CellDesign amount() {
+    return widgets::number_cell(-9999999999, 99999999999, 0, true);
+}
+CellDesign total_amount() {
+    return widgets::number_cell(-99999999, 99999999999, 0, true);
 }
 
-void MovableSchedule::sprMovableProp_Change(int, int) {}
+// clang-format off
+constexpr std::array<ScheduleField, 4> fields{{
+    {"Property Detail", label,  FieldGround::grey_and_locked, FieldStore::text, "MovableDesc", 34},
+    {"Amount",          amount, FieldGround::plain,           FieldStore::amount, "MovableValue", 18},
+    {"Debts Owed in Relation to the Asset", amount, FieldGround::plain, FieldStore::amount, "DebtOwed", 18},
+    {"Net Amount",      amount, FieldGround::grey_and_locked, FieldStore::amount, "NetAmount", 18},
+}};
+// clang-format on
+
+constexpr std::array<std::string_view, MovableRow::total> labels{
+    "Motor Cars", "Yachts, AirCrafts and Boats etc.", "Cash-in-Hand", "Total Value of Movable Property"};
+
+} // namespace
+
+MovableSchedule::MovableSchedule(frmImmovable& form, session::Session& session)
+    : AssetSchedule(form, session), Frame1(form, "Frame1"),
+      sprMovableProp(form, "sprMovableProp", static_cast<int>(fields.size()), MovableRow::total,
+                     "Movable Property") {
+    design();
+    sprMovableProp.on_change = [this](int column, int row) { sprMovableProp_Change(column, row); };
+    sprMovableProp.on_key_down = [this](std::string_view key) {
+        return clear_or_insert_key(sprMovableProp, key);
+    };
+}
+
+void MovableSchedule::design() {
+    sprMovableProp.tag = "Movable Property";
+    design_columns(sprMovableProp, fields);
+    for (int row = 1; const std::string_view each : labels)
+        sprMovableProp.set_label(MovableColumn::description, row++, std::string(each));
+    for (int column = MovableColumn::amount; column <= MovableColumn::net; ++column) {
+        sprMovableProp.design_cell(column, MovableRow::total, total_amount());
+        sprMovableProp.set_cell_formula(column, MovableRow::total,
+                                        {{column, 1, column, MovableRow::last_item}}, widgets::sum_formula);
+    }
+    sprMovableProp.set_cell_locked(MovableColumn::amount, MovableRow::total, true);
+}
+
+void MovableSchedule::sprMovableProp_Change(int column, int row) {
+    if (column == MovableColumn::amount || column == MovableColumn::debt) {
+        // Wanted: rows by their numbers, also after a row was inserted: what stands in row 4 then takes
+        // the sums of the rows above it.
+        for (const int summed : {int{MovableColumn::amount}, int{MovableColumn::debt}}) {
+            double sum = 0;
+            for (int item = 1; item <= MovableRow::last_item; ++item)
+                sum += sprMovableProp.value(summed, item);
+            sprMovableProp.set_value(summed, MovableRow::total, sum);
+        }
+        sprMovableProp.set_value(MovableColumn::net, row,
+                                 sprMovableProp.value(MovableColumn::amount, row) -
+                                     sprMovableProp.value(MovableColumn::debt, row));
+    }
+    if (!session_.BusinessAssetFlag && !session_.DeemedAssetFlag)
+        form_.txtNetMovableProperty.set_value(sprMovableProp.value(MovableColumn::net, MovableRow::total));
+}
+
+void MovableSchedule::load(const Attempt& attempt) {
+    sprMovableProp.clear_data({MovableColumn::amount, 1, MovableColumn::amount, MovableRow::total});
+    session_.SqlText =
+        "Select * From [Movable Property Details] where " + asset_key(session_) + " Order by SrNo";
+    RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
+    for (; !records.eof(); records.move_next()) {
+        const auto row = static_cast<int>(records["SrNo"].number());
+        if (row >= 1 && row <= sprMovableProp.rows()) fill_row(sprMovableProp, row, fields, records);
+    }
+}
+
+void MovableSchedule::save(const Attempt& attempt) {
+    session_.SqlText = "Delete From [Movable Property Details] where " + asset_key(session_);
+    attempt([&] { session_.TaxDb.execute(session_.SqlText); });
+    session_.SqlText = "Select * From [Movable Property Details] where " + asset_key(session_);
+    RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
+    const int last_item = sprMovableProp.rows() - 1; // the total row is always the last
+    for (int row = 1; row <= last_item; ++row) {
+        // Wanted: an item whose debt reaches its amount is not stored.
+        if (sprMovableProp.value(MovableColumn::net, row) <= 0) continue;
+        records.add_new();
+        records.set("AssesseeNo", session_.AssesseeNo);
+        records.set("FY", session_.CurrentFY);
+        records.set("AssetType", session_.asset_type());
+        records.set("SrNo", row);
+        store_fields(records, sprMovableProp, row, fields);
+        attempt([&] { records.update(); });
+    }
+}
+
+std::string MovableSchedule::value_for_parent() const {
+    return number_text(sprMovableProp.value(MovableColumn::net, MovableRow::total));
+}
 
 } // namespace levora::schedules

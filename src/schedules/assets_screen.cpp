@@ -149,6 +149,7 @@ void frmImmovable::cmdOK_Click() {
         for (int tab = 0; tab < asset_tabs; ++tab) {
             if (SSTabAsset.tab_enabled(tab)) {
                 grid.set_text(5, grid.active_row(), schedule(tab).value_for_parent());
+                grid.set_cell_locked(5, grid.active_row(), false); // it waited for its value
                 break;
             }
         }

@@ -81,7 +81,6 @@ void Grid::set_rows(int count) {
         storage_->rows.resize(static_cast<std::size_t>(count));
         storage_->count_column_data();
     } else {
-        storage_->rows.reserve(static_cast<std::size_t>(count));
         while (rows() < count) {
             const Row* last = storage_->rows.empty() ? nullptr : &storage_->rows.back();
             Row row = storage_->blank_row(last);

@@ -1,0 +1,173 @@
+#include "schedules/business_assets.h"
+
+#include "schedules/asset_opening.h"
+#include "schedules/asset_schedule.h"
+#include "schedules/grid_keys.h"
+#include "schedules/named_control.h"
+#include "schedules/running_total.h"
+#include "schedules/schedule_field.h"
+
+#include <array>
+
+namespace levora::schedules {
+
+using session::Attempt;
+using session::procedure;
+using session::RowSet;
+using session::RowSetUse;
+using widgets::CellDesign;
+
+namespace {
+
+CellDesign asset_list() {
+    return widgets::combo_cell({"Building", "Urban Land", "Car", "AirCraft", "Yachts", "Gold", "Silver",
+                                "Furnitures with precious metal", "Interest in Firm or AOP", "Jewellery",
+                                "Residential House", "Others"});
+}
+// Rounding would move the limit of 120 %.
+constexpr int unrounded = -1;
+CellDesign amount() {
+    return widgets::number_cell(-99999999, 99999999999, unrounded, true);
+}
+CellDesign details() {
+    return widgets::button_cell("Details");
+}
+
+// clang-format off
+constexpr std::array<ScheduleField, 7> fields{{
+    {"Assets",               asset_list, FieldGround::plain, FieldStore::text, "AssetName", 28},
+    {"Balance sheet Amount", amount,     FieldGround::plain, FieldStore::amount, "BalanceSheetAmount", 18},
+    {"20% of (2)",           amount,     FieldGround::grey_and_locked, FieldStore::nothing, "", 14},
+    {"(2) + (3)",            amount,     FieldGround::grey_and_locked, FieldStore::nothing, "", 16},
+    {"Individual Asset Value as per Schedule III", amount, FieldGround::plain, FieldStore::amount, "IndividualAssetValuaton", 18},
+    {"Details",              details,    FieldGround::plain, FieldStore::nothing, "", 10},
+    {"Value to be taken for Wealth Tax purpose", amount, FieldGround::grey_and_locked, FieldStore::amount, "ValueTobeTaken", 18},
+}};
+// clang-format on
+
+constexpr int rows_at_first = 20;
+// Rows whose individual value is locked until one arrives, from the assets screen or the store.
+constexpr int first_waiting_row = 2;
+constexpr int last_waiting_row = 11;
+
+constexpr int business_asset_type = 1;
+
+// Schedule III, Part D: the excess over the balance sheet that must be passed.
+double fifth_of(std::span<const double> balance_sheet) {
+    constexpr double excess = 0.2;
+    return balance_sheet[0] * excess;
+}
+double value_taken(std::span<const double> individual_limit_sheet) {
+    const double individual = individual_limit_sheet[0];
+    const double limit = individual_limit_sheet[1];
+    const double balance_sheet = individual_limit_sheet[2];
+    return individual > limit ? individual : balance_sheet;
+}
+
+} // namespace
+
+frmBusinessAssets::frmBusinessAssets(session::Session& session)
+    : Screen(session, "frmBusinessAssets", "Business Assets"),
+      frBusinessAssets(*this, "frBusinessAssets", "VALUATION OF ASSETS OF BUSINESS [Part D Schedule III]"),
+      sprAssetOfBusiness(*this, "sprAssetOfBusiness", static_cast<int>(fields.size()), rows_at_first,
+                         "VALUATION OF ASSETS OF BUSINESS [Part D Schedule III]"),
+      txtTotalBusinessAsset(*this, "txtTotalBusinessAsset", "Value of Busines Asset"),
+      cmdBusinessAssetSave(*this, "cmdBusinessAssetSave", "&Ok"), cmdCancel(*this, "cmdCancel", "&Cancel") {
+    txtTotalBusinessAsset.set_locked(true);
+    txtTotalBusinessAsset.set_text("0");
+    design();
+    connect();
+}
+
+void frmBusinessAssets::design() {
+    design_columns(sprAssetOfBusiness, fields);
+    // The numbers (1) to (6) that stood in row 1 go with the clearing of every load, so that they are
+    // never on view: the row is like the others.
+    for (int row = first_waiting_row; row <= last_waiting_row; ++row)
+        sprAssetOfBusiness.set_cell_locked(BusinessColumn::individual, row, true);
+    sprAssetOfBusiness.set_column_formula(BusinessColumn::fifth, {BusinessColumn::balance_sheet}, fifth_of);
+    sprAssetOfBusiness.set_column_formula(BusinessColumn::with_fifth,
+                                          {BusinessColumn::balance_sheet, BusinessColumn::fifth},
+                                          widgets::sum_formula);
+    sprAssetOfBusiness.set_column_formula(
+        BusinessColumn::taken,
+        {BusinessColumn::individual, BusinessColumn::with_fifth, BusinessColumn::balance_sheet}, value_taken);
+}
+
+void frmBusinessAssets::connect() {
+    // Wanted: a value that the assets screen hands over is no change; the total waits for the next one.
+    sprAssetOfBusiness.on_change = [this](int, int) { compute_total(); };
+    sprAssetOfBusiness.on_key_down = [this](std::string_view key) {
+        return clear_or_insert_key(sprAssetOfBusiness, key);
+    };
+    sprAssetOfBusiness.on_button_click = [this](int column, int row) {
+        if (column == BusinessColumn::details) sprAssetOfBusiness_ButtonClicked(row);
+    };
+    cmdBusinessAssetSave.on_click = [this] { cmdBusinessAssetSave_Click(); };
+    cmdCancel.on_click = [this] { cmdCancel_Click(); };
+}
+
+void frmBusinessAssets::Form_Load() {
+    session::SkinButtons(*this);
+    LoadBusinessassets();
+}
+
+void frmBusinessAssets::sprAssetOfBusiness_ButtonClicked(int row) {
+    session_.BusinessAssetFlag = true;
+    session_.AssetRowName = sprAssetOfBusiness.text(BusinessColumn::asset, row);
+    open_assets_for_row(session_, business_parent);
+}
+
+void frmBusinessAssets::compute_total() {
+    RunningTotal total;
+    const int last = sprAssetOfBusiness.data_rows();
+    for (int row = 1; row <= last; ++row)
+        total.add(sprAssetOfBusiness.value(BusinessColumn::taken, row));
+    txtTotalBusinessAsset.set_text(total.text());
+}
+
+void frmBusinessAssets::LoadBusinessassets() {
+    procedure(session_, "frmBusinessAssets - LoadBusinessassets", [this](const Attempt& attempt) {
+        sprAssetOfBusiness.clear_data();
+        session_.SqlText = "Select * From BusinessAsset Where " + year_key(session_);
+        RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
+        fill_rows(sprAssetOfBusiness, fields, records, RowGrowth::as_needed);
+        for (int row = first_waiting_row; row <= last_waiting_row; ++row)
+            if (sprAssetOfBusiness.value(BusinessColumn::individual, row) != 0)
+                sprAssetOfBusiness.set_cell_locked(BusinessColumn::individual, row, false);
+        compute_total();
+    });
+}
+
+void frmBusinessAssets::SaveBusinessAsset() {
+    procedure(session_, "frmBusinessAssets - SaveBusinessAsset", [this](const Attempt& attempt) {
+        session_.SqlText = "Delete From BusinessAsset Where " + year_key(session_);
+        attempt([&] { session_.TaxDb.execute(session_.SqlText); });
+        session_.SqlText = "Select * From BusinessAsset Where " + year_key(session_);
+        RowSet records =
+            attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
+        store_rows(
+            attempt, session_, records, sprAssetOfBusiness, fields,
+            {.last_row = sprAssetOfBusiness.data_rows(),
+             .kept = [this](int row) { return sprAssetOfBusiness.value(BusinessColumn::taken, row) != 0; },
+             .asset_type = business_asset_type});
+    });
+}
+
+void frmBusinessAssets::cmdBusinessAssetSave_Click() {
+    SaveBusinessAsset();
+    session_.BusinessAssetFlag = false;
+    show_assets_afresh(session_);
+    widgets::Form& assets = session_.screens.load("frmImmovable");
+    control_of<widgets::Frame>(assets, "frWTDetails").set_visible(true);
+    control_of<widgets::TextField>(assets, "txtNetBusinessAssets").set_text(txtTotalBusinessAsset.text());
+    session_.screens.unload(name());
+}
+
+void frmBusinessAssets::cmdCancel_Click() {
+    // Wanted: this screen stays loaded, so that its rows are there when it comes up again.
+    session_.BusinessAssetFlag = false;
+    show_assets_afresh(session_);
+}
+
+} // namespace levora::schedules
