@@ -27,7 +27,8 @@ namespace {
 constexpr std::string_view start_screen = "frmWealthMain";
 constexpr std::size_t computer_name_length = 15; // a buffer of 16 with its closing NUL
 
-// Which screen is made by which name.
+// Which screen is made by which name: one line for each. A button of the sheet whose screen is not here
+// is disabled.
 struct ScreenEntry {
     std::string_view name;
     std::unique_ptr<widgets::Form> (*make)(session::Session& session);
@@ -62,9 +63,10 @@ Program::Program(session::Surroundings surroundings) : session_(std::move(surrou
     reports::connect_reports(session_);
 }
 
-void Program::start() {
+bool Program::start() {
     started_ = true;
     session_.screens.show(start_screen);
+    return running();
 }
 
 std::vector<std::string> Program::screen_names() {

@@ -13,9 +13,9 @@ class Program {
 public:
     explicit Program(session::Surroundings surroundings);
 
-    // Shows the start screen, whose loading is the whole start-up. The run may have ended when this
-    // returns.
-    void start();
+    // Shows the start screen, whose loading is the whole start-up. False when the run has ended already:
+    // after an improper call, or a report of the start-up that was dismissed.
+    bool start();
     // False before the start and after the end.
     [[nodiscard]] bool running() const { return started_ && !session_.screens.ended(); }
 
