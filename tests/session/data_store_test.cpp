@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 #include <sys/stat.h>
 
 namespace levora::session {
@@ -176,6 +178,53 @@ TEST_F(DataStoreTest, AStatementReachesATableOfAnotherFile) {
         EXPECT_EQ(rows["Assessee_Name"].text() + rows["pin"].text(), "A1");
         tax.commit();
     }
+}
+
+TEST_F(DataStoreTest, AStoreThatCannotBeOpenedSaysWhichAndWhy) {
+    const auto opening = [](const std::string& file) {
+        return failure_of([&] {
+            Connection connection;
+            connection.open("Provider=P;Data Source=" + file + ";Jet OLEDB:Database Password=x");
+        });
+    };
+    const std::string& path = folder.path();
+    EXPECT_EQ(opening(path + "/Other.mdb"),
+              "3024 Could not find file '" + path + "/Other.db': No such file or directory.");
+    EXPECT_EQ(opening(path + "/none/LVWTax.mdb"), "76 Path not found: " + path + "/none");
+    std::filesystem::create_directory(path + "/Folder.db");
+    EXPECT_EQ(opening(path + "/Folder.mdb"), "75 " + path + "/Folder.db: Is a directory");
+    std::ofstream(path + "/Foreign.db") << "an old store of another make, long enough to look at";
+    EXPECT_EQ(opening(path + "/Foreign.mdb"), "26 " + path + "/Foreign.db: file is not a database");
+    EXPECT_EQ(failure_of([&] { tax.open(folder.connect_string(Store::tax)); }),
+              "3705 Operation is not allowed when the object is open.");
+}
+
+TEST_F(DataStoreTest, RowsThatAreNotThoseOfOneTableAreForReadingOnly) {
+    EXPECT_EQ(failure_of([&] { (void)tax.open_rows("SELECT 1 UNION SELECT 2", RowSetUse::update); }),
+              "3027 Cannot update. The rows are not those of one table.");
+    RowSet rows = tax.open_rows("Enclosure");
+    EXPECT_EQ(failure_of([&] { rows.add_new(); }), "3027 Cannot update. The rows were opened for reading.");
+    EXPECT_EQ(failure_of([&] { (void)tax.open_rows("Enclosures"); }), "1 no such table: Enclosures");
+    EXPECT_EQ(failure_of([&] { (void)tax.open_rows("SELECT Nope FROM Enclosure"); }),
+              "1 no such column: Nope");
+}
+
+TEST_F(DataStoreTest, ARowThatIsGoneCannotBeWritten) {
+    folder.run(Store::tax, "INSERT INTO Enclosure (Description) VALUES ('x')");
+    RowSet rows = tax.open_rows("Enclosure", RowSetUse::update);
+    tax.commit();
+    folder.run(Store::tax, "DELETE * FROM Enclosure");
+    rows.set("Figure", "1");
+    EXPECT_EQ(failure_of([&] { rows.update(); }), "3167 Record is deleted.");
+}
+
+TEST_F(DataStoreTest, TextsAreFoundInAnyCase) {
+    folder.run(Store::assessee, "INSERT INTO AICustomisedItems (ItemGroup, Item, OtherInfo1) VALUES ('Bank', "
+                                "'Canara Bank', '0240113')");
+    EXPECT_EQ(folder.rows(Store::assessee,
+                          "SELECT OtherInfo1 FROM AICustomisedItems WHERE ItemGroup = 'bank' AND Item = "
+                          "'CANARA BANK' AND OtherInfo1 <> '' AND NOT OtherInfo1 IS NULL "),
+              "0240113");
 }
 
 TEST_F(DataStoreTest, SharesFilesWithTheGroupAndNobodyElseWhateverTheMask) {
