@@ -164,8 +164,7 @@ void read_cell(XmlNode& node, std::vector<Element>& elements) {
     elements.push_back(frame(box, 0.25));
 
     TextLook caption{.size = caption_size,
-                     .vertical =
-                         has_lower_line || data.fit == Fit::grow ? VerticalAlign::top : VerticalAlign::middle,
+                     .vertical = has_lower_line ? VerticalAlign::top : VerticalAlign::middle,
                      .fit = Fit::wrap};
     const double caption_bottom = has_lower_line ? box.bottom - data_height - lower_edge + 0.3 : box.bottom;
     const Box caption_box{left, box.top + (has_lower_line ? caption_drop : 0),

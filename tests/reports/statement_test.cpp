@@ -1,0 +1,110 @@
+#include "reports/statement_report.h"
+
+#include "reports_fixture.h"
+
+namespace levora::reports {
+namespace {
+
+TEST_F(ReportsTest, TheStatementShowsTheUnsavedSheetObjectByObject) {
+    start();
+    type_on_sheet("txtLessDebt", "250000");
+    auto* assets = dynamic_cast<widgets::TextField*>(sheet().find("txtAssetsSec2ea"));
+    assets->set_text("9000000");
+    click_on_sheet("cmdPreview");
+    EXPECT_EQ(filled(previewed()),
+              "Office_Name: Rao & Sons\n"
+              "txtRepFY: F.Y. 2014-2015\n"
+              "Assessee_Name: Asha Rao\n"
+              "Father's Name: Father's Name\n"
+              "Father_Name: K Rao\n"
+              "txtRepAddress1: 12\n"
+              "txtRepAddress2: MG Road\n" // no comma without a fourth line
+              "txtRepCity: Pune\n"        // the city is its district: once, as written there
+              "txtRepPIN: PIN: 411001\n"
+              "Status: Individual\n"
+              "PAN: AAAPR1234C\n"
+              "Ward: Ward 3\n"
+              "Date_of_Birth: 31/05/1960\n"
+              "Sex: Female\n"
+              "txtRepAssetsSec2ea: 9000000\n"
+
+              "txtRepTotalAssets: 9000000\n"
+
+              "txtRepAssetsChargeable: 9000000\n"
+              "txtRepLessDebt: 250000\n"
+              "txtRepNetWealth: 8750000\n"
+              "txtRepNetWealthRounded: 8750000\n"
+              "txtRepTaxableWealth: 5750000\n"
+              "lblWealthTaxRate: Wealth Tax  @ 1% on Net Wealth in excess of Rs 30,00,000\n"
+              "txtRepWealthTax: 57500\n"
+              "txtRepTaxIntPayable: 57500\n"
+              "txtRepBalance: 57500\n"
+              "txtRepRefund: 0\n");
+    EXPECT_EQ(previewed().caption, "Statement of Wealth Tax Preview - F.Y. 2014-2015");
+}
+
+TEST_F(ReportsTest, TheResidenceStandsWhereItIsChosenAndAMissingPinIsEmpty) {
+    start("2014-2015 17 Individual x 1");
+    click_on_sheet("cmdPreview");
+    const document::Report& report = previewed();
+    EXPECT_EQ(report.text("txtRepAddress1") + "|" + report.text("txtRepAddress2") + "|" +
+                  report.text("txtRepCity") + "|" + report.text("txtRepPIN"),
+              "House 9||Nagpur, |"); // a city without a district keeps its comma
+}
+
+TEST_F(ReportsTest, FathersNameShowsForAnIndividualOnly) {
+    struct Case {
+        const char *status, *shown;
+        bool suppressed;
+    };
+    constexpr Case cases[] = {{"0", "Individual", false},
+                              {"1", "Hindu Undivided Family", true},
+                              {"11", "Companies", true},
+                              {"5", "5", true},
+                              {"Null", "", true}};
+    start();
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.status);
+        folder.run(Store::assessee, std::string("UPDATE AssesseeInfo SET Status = ") + each.status);
+        click_on_sheet("cmdPreview");
+        EXPECT_EQ(previewed().text("Status"), each.shown);
+        EXPECT_EQ(previewed().suppressed("Father_Name"), each.suppressed);
+        EXPECT_EQ(previewed().suppressed("Father's Name"), each.suppressed);
+    }
+}
+
+TEST_F(ReportsTest, TheYear2009ItselfKeepsTheOldLimitInTheCaption) {
+    struct Case {
+        const char *year, *limit;
+    };
+    for (const Case& each :
+         {Case{"2008", "15,00,000"}, Case{"2009", "15,00,000"}, Case{"2010", "30,00,000"}}) {
+        start();
+        session().AYStartYear = each.year;
+        click_on_sheet("cmdPreview");
+        EXPECT_EQ(previewed().text("lblWealthTaxRate"),
+                  std::string("Wealth Tax  @ 1% on Net Wealth in excess of Rs ") + each.limit)
+            << each.year;
+    }
+}
+
+TEST(StatementTest, AddressPartsAreJoinedByTheirOwnRules) {
+    EXPECT_EQ(JoinAddress("A", "B"), "A, B");
+    EXPECT_EQ(JoinAddress("", "B"), "B");
+    EXPECT_EQ(JoinCity("PUNE", "Pune"), "Pune");
+    EXPECT_EQ(JoinCity("Nashik", "Pune"), "Nashik, Pune");
+    EXPECT_EQ(JoinCity("", "Pune"), "Pune");
+}
+
+TEST_F(ReportsTest, ASecondPreviewClosesTheFirst) {
+    start();
+    click_on_sheet("cmdPreview");
+    click_on_sheet("cmdformBA");
+    form_ba().cmdPreview.click();
+    EXPECT_EQ(previewed().name(), "FormBB");
+    EXPECT_EQ(session().screens.find("frmRepPreview")->caption(),
+              "Wealth Tax Return Preview - F.Y. 2014-2015");
+}
+
+} // namespace
+} // namespace levora::reports
