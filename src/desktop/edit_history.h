@@ -1,0 +1,55 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace levora::widgets {
+class Control;
+class Form;
+} // namespace levora::widgets
+
+namespace levora::desktop {
+
+// One text that a person replaced: a field's, or a cell's (column and row from 1).
+struct Edit {
+    std::string control;
+    int column = 0; // 0 for a field
+    int row = 0;
+    std::string before;
+    std::string after;
+};
+
+// What a person did on one screen, to be taken back and done again. What the program wrote in
+// consequence follows by itself, as each edit is a person's act again.
+class EditHistory {
+public:
+    // Typing on in the same field is one edit.
+    void add(Edit edit);
+    // Ends the run of typing in a field.
+    void end_run() { run_open_ = false; }
+    void begin_step();
+    void end_step();
+    void clear();
+
+    [[nodiscard]] bool can_undo() const { return !done_.empty(); }
+    [[nodiscard]] bool can_redo() const { return !undone_.empty(); }
+    [[nodiscard]] bool replaying() const { return replaying_; }
+
+    // Takes the last step back, does the last one again. Edits whose place holds something else by now
+    // are left alone; their number.
+    int undo(widgets::Form& form);
+    int redo(widgets::Form& form);
+
+private:
+    using Step = std::vector<Edit>;
+    int replay(widgets::Form& form, const Step& step, std::string Edit::*from, std::string Edit::*to);
+
+    std::vector<Step> done_;
+    std::vector<Step> undone_;
+    int depth_ = 0;
+    bool run_open_ = false;
+    bool replaying_ = false;
+};
+
+
+} // namespace levora::desktop

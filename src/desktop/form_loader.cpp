@@ -1,0 +1,34 @@
+#include "desktop/form_loader.h"
+
+#include "desktop/composition_chart.h"
+#include "desktop/grid_view.h"
+#include "desktop/page_view.h"
+#include "desktop/qt_text.h"
+#include "desktop/spin_pair.h"
+
+#include <QFile>
+
+namespace levora::desktop {
+
+QWidget* FormLoader::load_screen(const std::string& screen, QWidget* parent) {
+    QFile file(QStringLiteral(":/forms/%1.ui").arg(to_qt(screen)));
+    if (!file.open(QIODevice::ReadOnly)) return nullptr;
+    return load(&file, parent);
+}
+
+QWidget* FormLoader::createWidget(const QString& class_name, QWidget* parent, const QString& name) {
+    QWidget* own = nullptr;
+    if (class_name == QLatin1String("GridView"))
+        own = new GridView(parent);
+    else if (class_name == QLatin1String("SpinPair"))
+        own = new SpinPair(parent);
+    else if (class_name == QLatin1String("CompositionChart"))
+        own = new CompositionChart(parent);
+    else if (class_name == QLatin1String("PageView"))
+        own = new PageView(parent);
+    if (!own) return QUiLoader::createWidget(class_name, parent, name);
+    own->setObjectName(name);
+    return own;
+}
+
+} // namespace levora::desktop

@@ -1,0 +1,82 @@
+#include "desktop/grid_view.h"
+#include "desktop/key_names.h"
+#include "desktop/qt_text.h"
+#include "desktop/screen_window.h"
+#include "widgets/fields.h"
+#include "widgets/grid.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+
+// Keys and the focus of a screen's window.
+namespace levora::desktop {
+
+using widgets::Control;
+
+bool ScreenWindow::key_pressed(const QKeyEvent& event, QObject* watched) {
+    const std::string name = key_name(event);
+    const bool plain_typing = types_character(event) || name.empty();
+    if (!plain_typing) {
+        // The screen sees it before its controls do.
+        bool answered = false;
+        if (!act([&] { answered = form_->press_key(name); }) || answered) return true;
+    }
+    if (name == "Enter" && !qobject_cast<GridView*>(watched)) {
+        if (auto* button = qobject_cast<QPushButton*>(watched)) {
+            button->click();
+            return true;
+        }
+        if (auto* box = qobject_cast<QComboBox*>(watched); box && box->view() && box->view()->isVisible())
+            return false;
+        if (auto* widget = qobject_cast<QWidget*>(watched)) {
+            // Enter moves on to the next field, as Tab does.
+            QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+            QCoreApplication::sendEvent(widget, &tab);
+            return true;
+        }
+    }
+    return false;
+}
+
+void ScreenWindow::keyPressEvent(QKeyEvent* event) {
+    if (form_ && !types_character(*event)) {
+        const std::string name = key_name(*event);
+        bool answered = false;
+        if (!name.empty() && (!act([&] { answered = form_->press_key(name); }) || answered)) return;
+    }
+    QMainWindow::keyPressEvent(event);
+}
+
+void ScreenWindow::focus_came(Control& control, QObject* widget, Qt::FocusReason reason) {
+    history_.end_run();
+    select_on_release_ = reason == Qt::MouseFocusReason;
+    if (reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason) return;
+    if (qobject_cast<GridView*>(widget)) return; // enters by itself, once its cell is known
+    if (!act([&] { control.enter(); })) return;
+    tell(to_qt(control.tooltip()));
+    // Entering a field selects all of it.
+    if (auto* line = qobject_cast<QLineEdit*>(widget); line && reason != Qt::MouseFocusReason) line->selectAll();
+}
+
+bool ScreenWindow::focus_goes(Control& control) {
+    history_.end_run();
+    bool let_go = true;
+    if (!act([&] { let_go = control.leave(); })) return true;
+    return let_go;
+}
+
+void ScreenWindow::cell_entered(const widgets::Grid& grid, int column, int row) {
+    if (column > grid.columns() || row > grid.rows()) return;
+    const QString note = to_qt(grid.note(column, row)).simplified();
+    // A label's text may be longer than its cell.
+    const QString text = to_qt(grid.text(column, row));
+    QString words = note;
+    if (words.isEmpty() && grid.cell_locked(column, row) && grid.cell_kind(column, row) == widgets::CellKind::text)
+        words = text;
+    tell(words);
+}
+
+} // namespace levora::desktop
