@@ -127,16 +127,17 @@ void CellDelegate::setModelData(QWidget* editor, QAbstractItemModel*, const QMod
     const int row = index.row() + 1;
     if (auto* list = qobject_cast<QComboBox*>(editor)) {
         const int chosen = list->currentIndex();
-        const bool picked = chosen >= 0 && (!list->isEditable() || list->currentText() == list->itemText(chosen));
+        const bool picked =
+            chosen >= 0 && (!list->isEditable() || list->currentText() == list->itemText(chosen));
         if (picked && chosen == grid->index(column, row)) return;
         if (picked || list->isEditable()) view_.commit(column, row, from_qt(list->currentText()));
         return;
     }
     if (auto* line = qobject_cast<QLineEdit*>(editor)) {
-        const QString typed = line->inputMask().isEmpty() || line->text().isEmpty() ||
-                                      line->hasAcceptableInput()
-                                  ? line->text()
-                                  : line->displayText().remove(QLatin1Char('_'));
+        const QString typed =
+            line->inputMask().isEmpty() || line->text().isEmpty() || line->hasAcceptableInput()
+                ? line->text()
+                : line->displayText().remove(QLatin1Char('_'));
         view_.commit(column, row, from_qt(typed));
     }
 }

@@ -51,5 +51,4 @@ private:
     bool replaying_ = false;
 };
 
-
 } // namespace levora::desktop

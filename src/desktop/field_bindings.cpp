@@ -27,8 +27,10 @@ void put_text(QLineEdit& line, const QString& text) {
     const QSignalBlocker quiet(line);
     const auto behind = line.text().size() - line.cursorPosition();
     line.setText(text);
-    if (line.hasFocus()) line.setCursorPosition(static_cast<int>(std::max<qsizetype>(0, text.size() - behind)));
-    else line.setCursorPosition(0);
+    if (line.hasFocus())
+        line.setCursorPosition(static_cast<int>(std::max<qsizetype>(0, text.size() - behind)));
+    else
+        line.setCursorPosition(0);
 }
 
 class TextBinding final : public Binding {
@@ -128,13 +130,14 @@ public:
         });
         if (!list.editable()) return;
         box->setCompleter(nullptr);
-        QObject::connect(box, &QComboBox::editTextChanged, box, [this, &acts, &history](const QString& typed) {
-            if (showing_ || from_qt(typed) == list_.text()) return;
-            const std::string before = list_.text();
-            if (!acts.act([&] { list_.type(from_qt(typed)); })) return;
-            history.add({list_.name(), 0, 0, before, list_.text()});
-            show_content();
-        });
+        QObject::connect(box, &QComboBox::editTextChanged, box,
+                         [this, &acts, &history](const QString& typed) {
+                             if (showing_ || from_qt(typed) == list_.text()) return;
+                             const std::string before = list_.text();
+                             if (!acts.act([&] { list_.type(from_qt(typed)); })) return;
+                             history.add({list_.name(), 0, 0, before, list_.text()});
+                             show_content();
+                         });
     }
 
 private:

@@ -4,6 +4,7 @@
 #include "desktop/grid_view.h"
 #include "desktop/page_view.h"
 #include "desktop/qt_text.h"
+#include "desktop/resources.h"
 #include "desktop/spin_pair.h"
 
 #include <QFile>
@@ -11,6 +12,7 @@
 namespace levora::desktop {
 
 QWidget* FormLoader::load_screen(const std::string& screen, QWidget* parent) {
+    load_resources();
     QFile file(QStringLiteral(":/forms/%1.ui").arg(to_qt(screen)));
     if (!file.open(QIODevice::ReadOnly)) return nullptr;
     return load(&file, parent);

@@ -53,8 +53,8 @@ void GridView::copy() const {
         for (int column = range.left; column <= range.right; ++column)
             if (!grid_->hidden(column)) {
                 QString cell = to_qt(grid_->text(column, row));
-                cells += cell.replace(QLatin1Char('\t'), QLatin1Char(' ')).replace(QLatin1Char('\n'),
-                                                                                 QLatin1Char(' '));
+                cells += cell.replace(QLatin1Char('\t'), QLatin1Char(' '))
+                             .replace(QLatin1Char('\n'), QLatin1Char(' '));
             }
         lines += cells.join(QLatin1Char('\t'));
     }

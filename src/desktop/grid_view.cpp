@@ -41,7 +41,7 @@ GridView::GridView(QWidget* parent) : QTableView(parent) {
     verticalHeader()->setDefaultSectionSize(row_height);
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    horizontalHeader()->setDefaultAlignment(Qt::AlignCenter | Qt::TextWordWrap);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
     horizontalHeader()->setHighlightSections(false);
     verticalHeader()->setHighlightSections(false);
 }
@@ -134,7 +134,8 @@ void GridView::size_columns() {
         const int width = static_cast<int>(characters * character) + cell_padding;
         const QVariant before = header->property(qPrintable(QStringLiteral("told%1").arg(section)));
         (void)before;
-        if (header->sectionSize(section) != width && !grid_->hidden(column)) header->resizeSection(section, width);
+        if (header->sectionSize(section) != width && !grid_->hidden(column))
+            header->resizeSection(section, width);
     }
 }
 

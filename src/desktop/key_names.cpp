@@ -17,21 +17,28 @@ struct NamedKey {
 };
 
 constexpr std::array named_keys{
-    NamedKey{Qt::Key_Delete, "Delete"},     NamedKey{Qt::Key_Insert, "Insert"},
-    NamedKey{Qt::Key_Escape, "Escape"},     NamedKey{Qt::Key_Return, "Enter"},
-    NamedKey{Qt::Key_Enter, "Enter"},       NamedKey{Qt::Key_Tab, "Tab"},
-    NamedKey{Qt::Key_Left, "Left"},         NamedKey{Qt::Key_Right, "Right"},
-    NamedKey{Qt::Key_Up, "Up"},             NamedKey{Qt::Key_Down, "Down"},
-    NamedKey{Qt::Key_Home, "Home"},         NamedKey{Qt::Key_End, "End"},
-    NamedKey{Qt::Key_PageUp, "PageUp"},     NamedKey{Qt::Key_PageDown, "PageDown"},
-    NamedKey{Qt::Key_Backspace, "Backspace"}, NamedKey{Qt::Key_Space, "Space"},
+    NamedKey{Qt::Key_Delete, "Delete"},
+    NamedKey{Qt::Key_Insert, "Insert"},
+    NamedKey{Qt::Key_Escape, "Escape"},
+    NamedKey{Qt::Key_Return, "Enter"},
+    NamedKey{Qt::Key_Enter, "Enter"},
+    NamedKey{Qt::Key_Tab, "Tab"},
+    NamedKey{Qt::Key_Left, "Left"},
+    NamedKey{Qt::Key_Right, "Right"},
+    NamedKey{Qt::Key_Up, "Up"},
+    NamedKey{Qt::Key_Down, "Down"},
+    NamedKey{Qt::Key_Home, "Home"},
+    NamedKey{Qt::Key_End, "End"},
+    NamedKey{Qt::Key_PageUp, "PageUp"},
+    NamedKey{Qt::Key_PageDown, "PageDown"},
+    NamedKey{Qt::Key_Backspace, "Backspace"},
+    NamedKey{Qt::Key_Space, "Space"},
 };
 
 std::string base_name(int key) {
     for (const NamedKey& each : named_keys)
         if (each.key == key) return std::string(each.name);
-    if (key >= Qt::Key_F1 && key <= Qt::Key_F12)
-        return "F" + std::to_string(key - Qt::Key_F1 + 1);
+    if (key >= Qt::Key_F1 && key <= Qt::Key_F12) return "F" + std::to_string(key - Qt::Key_F1 + 1);
     if ((key >= Qt::Key_A && key <= Qt::Key_Z) || (key >= Qt::Key_0 && key <= Qt::Key_9))
         return std::string(1, static_cast<char>(key));
     return {};

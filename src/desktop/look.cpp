@@ -1,5 +1,7 @@
 #include "desktop/look.h"
 
+#include "desktop/resources.h"
+
 #include <QApplication>
 #include <QFile>
 #include <QPalette>
@@ -16,15 +18,24 @@ struct Tint {
 };
 
 constexpr Tint tints[] = {
-    {QPalette::Window, 0xfff5f6f8, 0xff23262b},        {QPalette::WindowText, 0xff1f2430, 0xffe4e7ec},
-    {QPalette::Base, 0xffffffff, 0xff1b1e22},          {QPalette::AlternateBase, 0xfff0f2f5, 0xff2a2e34},
-    {QPalette::Text, 0xff1f2430, 0xffe4e7ec},          {QPalette::Button, 0xfffbfbfc, 0xff31363d},
-    {QPalette::ButtonText, 0xff1f2430, 0xffe4e7ec},    {QPalette::BrightText, 0xffb3261e, 0xffff8a80},
-    {QPalette::Highlight, 0xff1f6f8b, 0xff3a8ca8},     {QPalette::HighlightedText, 0xffffffff, 0xffffffff},
-    {QPalette::ToolTipBase, 0xff2d3340, 0xff3a404a},   {QPalette::ToolTipText, 0xffffffff, 0xfff2f4f7},
-    {QPalette::PlaceholderText, 0xff7b8494, 0xff8c95a3}, {QPalette::Link, 0xff1f6f8b, 0xff6cc0dc},
-    {QPalette::Light, 0xffffffff, 0xff3a404a},         {QPalette::Midlight, 0xffe3e6eb, 0xff343941},
-    {QPalette::Mid, 0xffc5cad3, 0xff4a515c},           {QPalette::Dark, 0xff9aa2b0, 0xff6b7482},
+    {QPalette::Window, 0xfff5f6f8, 0xff23262b},
+    {QPalette::WindowText, 0xff1f2430, 0xffe4e7ec},
+    {QPalette::Base, 0xffffffff, 0xff1b1e22},
+    {QPalette::AlternateBase, 0xfff0f2f5, 0xff2a2e34},
+    {QPalette::Text, 0xff1f2430, 0xffe4e7ec},
+    {QPalette::Button, 0xfffbfbfc, 0xff31363d},
+    {QPalette::ButtonText, 0xff1f2430, 0xffe4e7ec},
+    {QPalette::BrightText, 0xffb3261e, 0xffff8a80},
+    {QPalette::Highlight, 0xff1f6f8b, 0xff3a8ca8},
+    {QPalette::HighlightedText, 0xffffffff, 0xffffffff},
+    {QPalette::ToolTipBase, 0xff2d3340, 0xff3a404a},
+    {QPalette::ToolTipText, 0xffffffff, 0xfff2f4f7},
+    {QPalette::PlaceholderText, 0xff7b8494, 0xff8c95a3},
+    {QPalette::Link, 0xff1f6f8b, 0xff6cc0dc},
+    {QPalette::Light, 0xffffffff, 0xff3a404a},
+    {QPalette::Midlight, 0xffe3e6eb, 0xff343941},
+    {QPalette::Mid, 0xffc5cad3, 0xff4a515c},
+    {QPalette::Dark, 0xff9aa2b0, 0xff6b7482},
     {QPalette::Shadow, 0xff5d6675, 0xff0f1114},
 };
 constexpr Tint disabled_tints[] = {
@@ -49,8 +60,8 @@ bool is_dark(const QPalette& palette) {
 }
 
 void apply_look(QApplication& application, Shade shade) {
-    const bool dark =
-        shade == Shade::dark || (shade == Shade::system && is_dark(QApplication::palette()));
+    load_resources();
+    const bool dark = shade == Shade::dark || (shade == Shade::system && is_dark(QApplication::palette()));
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(own_palette(dark));
     QFile sheet(QStringLiteral(":/look.qss"));

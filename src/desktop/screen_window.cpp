@@ -8,8 +8,11 @@
 #include "widgets/grid.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QComboBox>
+#include <QFocusEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -76,7 +79,8 @@ void ScreenWindow::tie(Control& control) {
     if (widget) {
         by_widget_[widget] = binding.get();
         widget->installEventFilter(this);
-        if (auto* label = centralWidget()->findChild<QLabel*>(QStringLiteral("label_") + to_qt(control.name()))) {
+        if (auto* label =
+                centralWidget()->findChild<QLabel*>(QStringLiteral("label_") + to_qt(control.name()))) {
             label->setText(to_qt(control.label).simplified());
             label->setBuddy(widget);
             binding->set_label(label);
@@ -160,8 +164,7 @@ void ScreenWindow::cell_changed(const widgets::Grid& grid, int column, int row) 
 }
 
 void ScreenWindow::active_cell_changed(const widgets::Grid& grid) {
-    if (Binding* binding = binding_of(grid))
-        static_cast<GridView*>(binding->widget())->active_cell_changed();
+    if (Binding* binding = binding_of(grid)) static_cast<GridView*>(binding->widget())->active_cell_changed();
 }
 
 void ScreenWindow::form_changed(const Form& form) {
@@ -184,6 +187,7 @@ void ScreenWindow::follow_visibility() {
     show();
     raise();
     activateWindow();
+    emit came_up();
 }
 
 void ScreenWindow::form_raised(const Form&) {
@@ -253,7 +257,8 @@ void ScreenWindow::undo() {
     if (!history_.can_undo()) {
         tell(tr("There is nothing to take back."));
     } else if (act([&] { left_alone = history_.undo(*form_); })) {
-        tell(left_alone == 0 ? tr("Taken back.") : tr("Some places have changed since and stay as they are."));
+        tell(left_alone == 0 ? tr("Taken back.")
+                             : tr("Some places have changed since and stay as they are."));
     }
 }
 
@@ -263,7 +268,8 @@ void ScreenWindow::redo() {
     if (!history_.can_redo()) {
         tell(tr("There is nothing to do again."));
     } else if (act([&] { left_alone = history_.redo(*form_); })) {
-        tell(left_alone == 0 ? tr("Done again.") : tr("Some places have changed since and stay as they are."));
+        tell(left_alone == 0 ? tr("Done again.")
+                             : tr("Some places have changed since and stay as they are."));
     }
 }
 
@@ -280,7 +286,8 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
         break;
     case QEvent::FocusOut: {
         const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason && !focus_goes(*control)) {
+        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason &&
+            !focus_goes(*control)) {
             auto* widget = qobject_cast<QWidget*>(watched);
             QMetaObject::invokeMethod(
                 this, [widget] { widget->setFocus(Qt::OtherFocusReason); }, Qt::QueuedConnection);
@@ -288,7 +295,8 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
         break;
     }
     case QEvent::MouseButtonRelease:
-        if (auto* line = qobject_cast<QLineEdit*>(watched); line && select_on_release_ && !line->hasSelectedText())
+        if (auto* line = qobject_cast<QLineEdit*>(watched);
+            line && select_on_release_ && !line->hasSelectedText())
             line->selectAll();
         select_on_release_ = false;
         break;

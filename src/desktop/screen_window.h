@@ -58,6 +58,8 @@ signals:
     void close_asked();
     // After each act of a person, when the figures stand.
     void settled();
+    // The window has come up, or again.
+    void came_up();
     // F1: where the figure under the focus comes from.
     void explanation_wanted(const widgets::Control* control);
 

@@ -6,8 +6,9 @@
 #include "widgets/grid.h"
 
 #include <QComboBox>
-#include <QLabel>
+#include <QCoreApplication>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 
@@ -58,7 +59,8 @@ void ScreenWindow::focus_came(Control& control, QObject* widget, Qt::FocusReason
     if (!act([&] { control.enter(); })) return;
     tell(to_qt(control.tooltip()));
     // Entering a field selects all of it.
-    if (auto* line = qobject_cast<QLineEdit*>(widget); line && reason != Qt::MouseFocusReason) line->selectAll();
+    if (auto* line = qobject_cast<QLineEdit*>(widget); line && reason != Qt::MouseFocusReason)
+        line->selectAll();
 }
 
 bool ScreenWindow::focus_goes(Control& control) {
@@ -74,7 +76,8 @@ void ScreenWindow::cell_entered(const widgets::Grid& grid, int column, int row) 
     // A label's text may be longer than its cell.
     const QString text = to_qt(grid.text(column, row));
     QString words = note;
-    if (words.isEmpty() && grid.cell_locked(column, row) && grid.cell_kind(column, row) == widgets::CellKind::text)
+    if (words.isEmpty() && grid.cell_locked(column, row) &&
+        grid.cell_kind(column, row) == widgets::CellKind::text)
         words = text;
     tell(words);
 }

@@ -1,0 +1,107 @@
+#include "desktop/desktop_run.h"
+#include "desktop/look.h"
+#include "desktop/qt_text.h"
+
+#include <QApplication>
+#include <QIcon>
+
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+using namespace levora;
+
+constexpr int wrong_call = 2;
+constexpr int no_display = 1;
+
+constexpr std::string_view usage =
+    "usage: levora-wealth-tax [options] YEAR ASSESSEE [STATUS [WORD [ADDRESS]]]\n"
+    "  --settings FILE          the settings file (default: the user's own)\n"
+    "  --data FOLDER            the data folder, for this run only\n"
+    "  --program-folder FOLDER  the program's own folder (default: where this program lies)\n"
+    "  --palette light|dark     the palette (default: as the desktop has it)\n"
+    "YEAR is the assessment year, such as 2014-2015; ASSESSEE the number of the assessee.\n";
+
+struct CommandLine {
+    desktop::RunOptions run;
+    desktop::Shade shade = desktop::Shade::system;
+};
+
+std::string own_folder() {
+    std::error_code error;
+    const std::filesystem::path own = std::filesystem::read_symlink("/proc/self/exe", error);
+    return error ? std::filesystem::current_path().string() : own.parent_path().string();
+}
+
+// Options of our own come first; all words behind them are the program's command line.
+std::optional<std::string> read_command_line(const std::vector<std::string>& words, CommandLine& line) {
+    line.run.settings_path = session::Settings::default_path();
+    line.run.program_folder = own_folder();
+    std::size_t at = 0;
+    for (; at < words.size() && words[at].starts_with("--"); at += 2) {
+        const std::string& option = words[at];
+        if (at + 1 == words.size()) return option + " needs a value";
+        const std::string& value = words[at + 1];
+        if (option == "--settings")
+            line.run.settings_path = value;
+        else if (option == "--data")
+            line.run.data_folder = value;
+        else if (option == "--program-folder")
+            line.run.program_folder = value;
+        else if (option == "--palette" && (value == "light" || value == "dark"))
+            line.shade = value == "dark" ? desktop::Shade::dark : desktop::Shade::light;
+        else
+            return "unknown option " + option + " " + value;
+    }
+    for (; at < words.size(); ++at)
+        line.run.command_line += (line.run.command_line.empty() ? "" : " ") + words[at];
+    return std::nullopt;
+}
+
+bool has_display() {
+    const auto given = [](const char* name) {
+        const char* value = std::getenv(name);
+        return value && *value;
+    };
+    return given("DISPLAY") || given("WAYLAND_DISPLAY") || given("QT_QPA_PLATFORM");
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<std::string> words(argv + 1, argv + argc);
+    if (!words.empty() && words.front() == "--help") {
+        std::cout << usage;
+        return 0;
+    }
+    CommandLine line;
+    if (const std::optional<std::string> fault = read_command_line(words, line)) {
+        std::cerr << "levora-wealth-tax: " << *fault << "\n" << usage;
+        return wrong_call;
+    }
+    if (!has_display()) {
+        std::cerr << "levora-wealth-tax: there is no display to open a window on (neither DISPLAY nor "
+                     "WAYLAND_DISPLAY is set).\nTo work without a window, use levora-wealth-script.\n";
+        return no_display;
+    }
+    // The words are the program's own: none of them is an option of the toolkit.
+    int own_argc = 1;
+    QApplication application(own_argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("Levora"));
+    QApplication::setApplicationName(QStringLiteral("levora-wealth-tax"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Levora Wealth Tax"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("levora-wealth-tax"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/levora-wealth-tax.svg")));
+    QApplication::setQuitOnLastWindowClosed(false);
+    desktop::apply_look(application, line.shade);
+
+    desktop::DesktopRun run(line.run);
+    run.on_ended = [] { QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection); };
+    if (!run.start()) return 0;
+    return QApplication::exec();
+}

@@ -1,0 +1,67 @@
+#include "desktop/sheet_extras.h"
+
+#include "desktop/composition_chart.h"
+#include "desktop/qt_text.h"
+#include "desktop/screen_window.h"
+#include "widgets/fields.h"
+
+#include <array>
+
+namespace levora::desktop {
+
+namespace {
+
+struct ChartLine {
+    const char* control;
+    bool total;
+};
+
+// From what is owned to what is owed; the words are those of the fields.
+constexpr std::array chart_lines{
+    ChartLine{"txtAssetsSec2ea", false},
+    ChartLine{"txtDeemedAssets", false},
+    ChartLine{"txtAssetsChargeableToWTax", true},
+    ChartLine{"txtLessDebt", false},
+    ChartLine{"txtNetWealth", true},
+    ChartLine{"txtTaxableWealth", true},
+    ChartLine{"txtWealthTaxLiability", false},
+};
+
+// The part of a field's words that fits a chart: without number and brackets.
+QString short_words(const std::string& label) {
+    QString words = plain_words(label);
+    const auto bracket = words.indexOf(QLatin1Char('['));
+    if (bracket > 0) words.truncate(bracket);
+    const auto relation = words.indexOf(QStringLiteral(" in relation"));
+    if (relation > 0) words.truncate(relation);
+    const auto number = words.indexOf(QStringLiteral(". "));
+    if (number == 1) words = words.mid(3);
+    if (words.startsWith(QStringLiteral("Add: "))) words = words.mid(5);
+    return words.trimmed();
+}
+
+void show_composition(const ScreenWindow& window, CompositionChart& chart) {
+    std::vector<CompositionChart::Bar> bars;
+    for (const ChartLine& line : chart_lines) {
+        const auto* field = static_cast<const widgets::TextField*>(window.form()->find(line.control));
+        if (!field) continue;
+        bars.push_back({short_words(field->label), field->value(),
+                        to_qt(group_indian_text(number_text(field->value()))), line.total});
+    }
+    chart.show_bars(std::move(bars));
+}
+
+} // namespace
+
+void add_sheet_extras(ScreenWindow& window) {
+    auto* chart = window.findChild<CompositionChart*>();
+    if (!chart) return;
+    QObject::connect(&window, &ScreenWindow::settled, chart, [&window, chart] {
+        if (window.attached()) show_composition(window, *chart);
+    });
+    QObject::connect(&window, &ScreenWindow::came_up, chart, [&window, chart] {
+        if (window.attached()) show_composition(window, *chart);
+    });
+}
+
+} // namespace levora::desktop
