@@ -50,13 +50,6 @@ TEST_F(SheetChainTest, OneWriteFillsAnEmptySheetWithNoughts) {
     EXPECT_EQ(balance_and_refund(), "0/0");
 }
 
-TEST_F(SheetChainTest, WantedExemptedAssetsAlterNoFigure) {
-    sheet().txtAssetsSec2ea.set_text("4512349");
-    sheet().txtExemptedAssets.set_text("4000000");
-    EXPECT_EQ(sheet().txtAssetsChargeableToWTax.text(), "4512349");
-    EXPECT_EQ(sheet().txtWealthTaxLiability.text(), "15123");
-}
-
 TEST_F(SheetChainTest, PrepaidTaxLeavesBalanceOrRefund) {
     sheet().txtAssetsSec2ea.set_text("3123450"); // rounds up to a tax of 1235
     EXPECT_EQ(balance_and_refund(), "1235/0");
