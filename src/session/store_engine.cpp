@@ -89,8 +89,26 @@ int OpenStore::wait_while_busy(void* self, int attempts) {
     const auto now = std::chrono::steady_clock::now();
     if (attempts == 0) store.busy_until_ = now + store.longest_wait_;
     if (now >= store.busy_until_) return 0;
+    constexpr int patient_attempts = 3;
+    if (attempts >= patient_attempts && store.borrow_gate()) return 1;
     std::this_thread::sleep_for(std::chrono::milliseconds(std::min(1 + attempts / 4, 10)));
     return 1;
+}
+
+bool OpenStore::borrow_gate() {
+    if (gate_.is_inside()) return false;
+    try {
+        const auto left = busy_until_ - std::chrono::steady_clock::now();
+        gate_borrowed_ = gate_.enter(std::chrono::duration_cast<std::chrono::milliseconds>(left));
+    } catch (const Failure&) {
+        gate_borrowed_ = false; // a folder that can be read only has no gate
+    }
+    return gate_borrowed_;
+}
+
+void OpenStore::give_gate_back() {
+    if (gate_borrowed_) gate_.leave();
+    gate_borrowed_ = false;
 }
 
 void OpenStore::fail(int code) {
@@ -130,12 +148,14 @@ PreparedStatement OpenStore::prepare(const std::string& text) {
     sqlite3_stmt* statement = nullptr;
     const int code = sqlite3_prepare_v2(database_.get(), text.c_str(), static_cast<int>(text.size()) + 1,
                                         &statement, nullptr);
+    give_gate_back();
     if (code != SQLITE_OK) fail(code);
     return PreparedStatement(statement);
 }
 
 bool OpenStore::step(sqlite3_stmt* statement) {
     const int code = sqlite3_step(statement);
+    give_gate_back();
     if (code == SQLITE_ROW) return true;
     if (code != SQLITE_DONE) fail(code);
     return false;

@@ -75,6 +75,9 @@ private:
     };
 
     static int wait_while_busy(void* self, int attempts);
+    // A reader who finds writers at work again and again takes a turn as they do, for one step.
+    bool borrow_gate();
+    void give_gate_back();
     void start_transaction();
     void write_again(const Written& each);
 
@@ -85,6 +88,7 @@ private:
     std::chrono::milliseconds longest_wait_{std::chrono::seconds(10)};
     std::chrono::steady_clock::time_point busy_until_;
     std::vector<std::string> attached_;
+    bool gate_borrowed_ = false;
     bool begun_ = false;
     std::vector<Written> written_; // in the transaction in hand
     // Set from the moment when written rows were taken back until they stand again. What still comes
