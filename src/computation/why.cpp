@@ -78,9 +78,7 @@ std::string by_interest(const frmWealthMain& sheet) {
            group_indian_text(number_text(round_half_even(interest)));
 }
 
-} // namespace
-
-std::string explain(const frmWealthMain& sheet, const widgets::Control& control) {
+std::string explained(const frmWealthMain& sheet, const widgets::Control& control) {
     if (&control == &sheet.txtInterest) return by_interest(sheet);
     for (const Entry& entry : entries)
         if (&(sheet.*entry.field) == &control)
@@ -88,6 +86,16 @@ std::string explain(const frmWealthMain& sheet, const widgets::Control& control)
     for (const SheetRule& rule : sheet_rules())
         if (&(sheet.*rule.target) == &control) return by_rules(sheet, rule.target);
     return {};
+}
+
+} // namespace
+
+std::string explain(const frmWealthMain& sheet, const widgets::Control& control) {
+    try {
+        return explained(sheet, control);
+    } catch (const Failure& overflow) {
+        return overflow.what(); // a typed figure beyond what can be reckoned with
+    }
 }
 
 } // namespace levora::computation

@@ -1,5 +1,6 @@
 #include "desktop/sheet_extras.h"
 
+#include "computation/why.h"
 #include "desktop/composition_chart.h"
 #include "desktop/qt_text.h"
 #include "desktop/screen_window.h"
@@ -51,9 +52,16 @@ void show_composition(const ScreenWindow& window, CompositionChart& chart) {
     chart.show_bars(std::move(bars));
 }
 
+void tell_why(ScreenWindow& window, const widgets::Control* control) {
+    const auto* sheet = dynamic_cast<const computation::frmWealthMain*>(window.form());
+    if (sheet && control) window.tell(to_qt(computation::explain(*sheet, *control)));
+}
+
 } // namespace
 
 void add_sheet_extras(ScreenWindow& window) {
+    QObject::connect(&window, &ScreenWindow::explanation_wanted, &window,
+                     [&window](const widgets::Control* control) { tell_why(window, control); });
     auto* chart = window.findChild<CompositionChart*>();
     if (!chart) return;
     QObject::connect(&window, &ScreenWindow::settled, chart, [&window, chart] {

@@ -49,6 +49,9 @@ TEST_F(WhyTest, TellsAFigureThatIsNotTheRules) {
         explain(sheet(), sheet().txtInterest),
         "Interest 99 was typed or stored; 1 % of Tax on Net Wealth 19,000 for 2 months, due 31/07/2014, "
         "filed 15/09/2014 (section 17B) gives 380");
+    sheet().txtLessDebt.type("1e999");
+    EXPECT_EQ(explain(sheet(), sheet().txtNetWealth), "Overflow");
+    sheet().txtLessDebt.type("0");
     sheet().mskRetDate.type("31/07/2014");
     EXPECT_EQ(explain(sheet(), sheet().txtInterest), "Interest: none, due 31/07/2014, filed 31/07/2014");
 }
