@@ -164,6 +164,12 @@ void frmBusinessAssets::cmdBusinessAssetSave_Click() {
     session_.screens.unload(name());
 }
 
+void frmBusinessAssets::Form_Unload() {
+    // The close box leaves as Cancel does, unless the assets are on view already.
+    const widgets::Form* assets = session_.screens.find("frmImmovable");
+    if (assets == nullptr || !assets->visible()) cmdCancel_Click();
+}
+
 void frmBusinessAssets::cmdCancel_Click() {
     // Wanted: this screen stays loaded, so that its rows are there when it comes up again.
     session_.BusinessAssetFlag = false;

@@ -25,6 +25,7 @@ public:
     widgets::Button cmdCancel;
 
     void Form_Load() override;
+    void Form_Unload() override;
 
     void LoadBusinessassets();
     void SaveBusinessAsset();

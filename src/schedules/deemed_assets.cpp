@@ -196,6 +196,12 @@ void frmDeemedAsset::cmdDeemedAssetCancel_Click() {
     show_sheet();
 }
 
+void frmDeemedAsset::Form_Unload() {
+    // The close box leaves as Cancel does; the sheet would stay hidden otherwise.
+    widgets::Form* sheet = session_.screens.find("frmWealthMain");
+    if (sheet != nullptr && !sheet->visible()) session_.screens.show("frmWealthMain");
+}
+
 void frmDeemedAsset::show_sheet() {
     session_.screens.show("frmWealthMain");
     session_.screens.unload(name());

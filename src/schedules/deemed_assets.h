@@ -38,6 +38,7 @@ public:
     widgets::Button cmdDeemedAssetCancel;
 
     void Form_Load() override;
+    void Form_Unload() override;
 
     void LoadDeemedAsset();
     void SaveDeemedAsset();

@@ -163,6 +163,12 @@ void frmAssetExempt::cmdOK_Click() {
     show_sheet();
 }
 
+void frmAssetExempt::Form_Unload() {
+    // The close box leaves as Cancel does; the sheet would stay hidden otherwise.
+    widgets::Form* sheet = session_.screens.find("frmWealthMain");
+    if (sheet != nullptr && !sheet->visible()) session_.screens.show("frmWealthMain");
+}
+
 void frmAssetExempt::show_sheet() {
     session_.screens.show("frmWealthMain");
     session_.screens.unload(name());

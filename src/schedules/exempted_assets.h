@@ -31,6 +31,7 @@ public:
     widgets::MenuItem mnuPrintSheet;
 
     void Form_Load() override;
+    void Form_Unload() override;
 
     void LoadExemptedAsset();
     void SaveExemptedAsset();

@@ -21,6 +21,8 @@ public:
     widgets::ListField cboFY{*this, "cboFY", widgets::ListStyle::pick, "A.Y", {"2014-2015"}};
     widgets::TextField txtAssesseeName{*this, "txtAssesseeName"};
     widgets::TextField txtAssetsSec2ea{*this, "txtAssetsSec2ea"};
+    widgets::TextField txtDeemedAssets{*this, "txtDeemedAssets"};
+    widgets::TextField txtExemptedAssets{*this, "txtExemptedAssets"};
 };
 
 class RowsStandIn : public widgets::Form {
@@ -77,6 +79,24 @@ protected:
         for (int column = 2; column <= grid.columns(); ++column)
             all += (all.empty() ? "" : " ") +
                    (grid.hidden(column) ? "(" + grid.header(column) + ")" : grid.header(column));
+        return all;
+    }
+    // Texts of a run of cells, a line for each row.
+    static std::string table(const widgets::Grid& grid, const widgets::CellRange& range) {
+        std::string all;
+        for (int row = range.first_row; row <= range.last_row; ++row) {
+            for (int column = range.first_column; column <= range.last_column; ++column)
+                all += (column == range.first_column ? "" : "|") + grid.text(column, row);
+            all += "\n";
+        }
+        return all;
+    }
+    // The next box is answered so; what it asked stands in asked().
+    void answer(widgets::Answer answer) { desk.queue_answer(answer); }
+    std::string asked() {
+        std::string all;
+        for (const auto& shown : desk.take_messages())
+            all += shown.box.text + (shown.box.icon == widgets::Icon::question ? "?" : "") + "\n";
         return all;
     }
     // All rows of a select, a line each, a Null as "null".
