@@ -129,10 +129,11 @@ void frmFormBA::fill_prepaid_taxes() {
     session_.SqlText = "Select * From [PrePaidTaxes] where AssesseeNo = " + session_.assessee_text() +
                        " And FY ='" + session_.CurrentFY + "'";
     RowSet record = session_.TaxDb.open_rows(session_.SqlText);
-    for (int row = 1; !record.eof(); record.move_next(), ++row) {
+    int row = 1;
+    for (; !record.eof(); record.move_next(), ++row)
         put_record(sprScheduleBTP, row, record, prepaid_sources);
-        sprScheduleBTP_Change();
-    }
+    // Meant after each row, of which only the last can be seen; without any row the total stays.
+    if (row > 1) sprScheduleBTP_Change();
 }
 
 // Business assets are taken in, deemed assets are left out: they come with the other persons.

@@ -18,7 +18,8 @@ void on_change(std::initializer_list<TextField*> fields, const std::function<voi
 // A total starts at "0" and grows row by row through its text, so what hangs on it follows each row.
 void sum_into(TextField& total, const Grid& grid, int column) {
     total.set_text("0");
-    for (int row = 1; row <= grid.data_rows(); ++row)
+    const int last = grid.data_rows();
+    for (int row = 1; row <= last; ++row)
         total.set_value(total.value() + grid.value(column, row));
 }
 

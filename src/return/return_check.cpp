@@ -52,8 +52,8 @@ Finding on_cell(const widgets::Grid& grid, int column, int row, std::string what
             std::move(what), grid.name(), column, row};
 }
 
-std::vector<Finding> check_return(const frmFormBA& form, session::Session& session) {
-    std::vector<Finding> findings = schema_findings(form, session);
+std::vector<Finding> check_return(const frmFormBA& form, session::Session& session, const Schema& schema) {
+    std::vector<Finding> findings = schema_findings(form, session, schema);
     for (Finding& each : plain_findings(form, session)) {
         // A choice that is missing is told once.
         const bool told = std::any_of(findings.begin(), findings.end(), [&each](const Finding& other) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "return/return_screen.h"
+#include "return/schema_check.h"
 
 #include <string>
 #include <vector>
@@ -17,13 +18,12 @@ struct Finding {
     int row = 0;
 };
 
-// Checks the return as it stands on the screen: the document that it would make against the schema of
-// the program's folder, and what no schema sees. Changes nothing, the state of a later document
-// included.
-std::vector<Finding> check_return(const frmFormBA& form, session::Session& session);
+// Checks the return as it stands on the screen: the document that it would make against the schema, and
+// what no schema sees. Changes nothing, the state of a later document included.
+std::vector<Finding> check_return(const frmFormBA& form, session::Session& session, const Schema& schema);
 
 // The two halves.
-std::vector<Finding> schema_findings(const frmFormBA& form, session::Session& session);
+std::vector<Finding> schema_findings(const frmFormBA& form, session::Session& session, const Schema& schema);
 std::vector<Finding> plain_findings(const frmFormBA& form, const session::Session& session);
 
 // A finding on a field, and one on a cell of a grid.

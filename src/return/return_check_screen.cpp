@@ -30,7 +30,8 @@ void frmReturnCheck::check() {
         lblSummary.set_caption("The return is not open.");
         return;
     }
-    findings_ = check_return(*form, session_);
+    if (!schema_) schema_.emplace(session_.program_folder);
+    findings_ = check_return(*form, session_, *schema_);
     for (const Finding& each : findings_)
         lstFindings.add_row({each.where, each.what});
     const auto count = static_cast<double>(findings_.size());

@@ -4,6 +4,9 @@
 #include "session/session_state.h"
 #include "widgets/fields.h"
 
+#include <optional>
+#include <vector>
+
 namespace levora::form_ba {
 
 // What the check of the return has found, with a way to each place.
@@ -24,6 +27,7 @@ private:
     void check();
     void go_there();
 
+    std::optional<Schema> schema_; // read with the first check
     std::vector<Finding> findings_;
 };
 

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <new>
 
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
@@ -92,14 +93,29 @@ void note_fault(void* user, xmlErrorPtr error) {
 
 } // namespace
 
-std::vector<SchemaFault> check_against_schema(const XmlDocument& document, const std::string& folder) {
+struct Schema::Compiled {
+    std::unique_ptr<xmlSchema, FreeSchema> schema;
+};
+
+Schema::Schema(const std::string& folder) : compiled_(std::make_unique<Compiled>()) {
     const SchemaFilesOnly guard(folder);
     const std::unique_ptr<xmlSchemaParserCtxt, FreeSchema> parser(xmlSchemaNewParserCtxt("Form.xsd"));
-    if (parser) xmlSchemaSetParserStructuredErrors(parser.get(), ignore, nullptr);
-    const std::unique_ptr<xmlSchema, FreeSchema> schema(parser ? xmlSchemaParse(parser.get()) : nullptr);
-    const std::unique_ptr<xmlSchemaValidCtxt, FreeSchema> check(schema ? xmlSchemaNewValidCtxt(schema.get())
-                                                                       : nullptr);
-    if (!check) throw Failure(error_number::path_access, folder + "/Form.xsd can't be used as a schema");
+    if (parser) {
+        xmlSchemaSetParserStructuredErrors(parser.get(), ignore, nullptr);
+        compiled_->schema.reset(xmlSchemaParse(parser.get()));
+    }
+    if (!compiled_->schema)
+        throw Failure(error_number::path_access, folder + "/Form.xsd can't be used as a schema");
+}
+
+Schema::~Schema() = default;
+Schema::Schema(Schema&&) noexcept = default;
+Schema& Schema::operator=(Schema&&) noexcept = default;
+
+std::vector<SchemaFault> Schema::faults_of(const XmlDocument& document) const {
+    const std::unique_ptr<xmlSchemaValidCtxt, FreeSchema> check(
+        xmlSchemaNewValidCtxt(compiled_->schema.get()));
+    if (!check) throw std::bad_alloc();
     Faults faults;
     xmlSchemaSetValidStructuredErrors(check.get(), note_fault, &faults);
     xmlSchemaValidateDoc(check.get(), document.get());

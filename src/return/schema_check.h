@@ -2,6 +2,7 @@
 
 #include "return/xml_document.h"
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,10 +19,23 @@ struct SchemaFault {
     int outer_row = 0;       // the same of the element around that
 };
 
-// Holds the document against "Form.xsd" of the folder and the schemas that it takes in, or against the
-// built-in ones where the folder has none. Nothing else is opened, on the disk or elsewhere. A schema
-// that can't be used is a Failure 75.
-std::vector<SchemaFault> check_against_schema(const XmlDocument& document, const std::string& folder);
+// "Form.xsd" of a folder with the schemas that it takes in, or the built-in ones where the folder has
+// none. Nothing else is opened, on the disk or elsewhere.
+class Schema {
+public:
+    // A Failure 75 when what the folder has can't be used.
+    explicit Schema(const std::string& folder);
+    ~Schema();
+    Schema(Schema&&) noexcept;
+    Schema& operator=(Schema&&) noexcept;
+
+    // What of the document it refuses.
+    [[nodiscard]] std::vector<SchemaFault> faults_of(const XmlDocument& document) const;
+
+private:
+    struct Compiled;
+    std::unique_ptr<Compiled> compiled_;
+};
 
 // The text of a schema by its file's name; empty for any other name.
 std::string_view built_in_schema(std::string_view name);

@@ -204,11 +204,11 @@ std::string filed_document(const frmFormBA& form, session::Session& session) {
 
 } // namespace
 
-std::vector<Finding> schema_findings(const frmFormBA& form, session::Session& session) {
+std::vector<Finding> schema_findings(const frmFormBA& form, session::Session& session, const Schema& schema) {
     const std::optional<XmlDocument> document = XmlDocument::parse(filed_document(form, session));
     if (!document) return {}; // the plain findings name the "<" or the row that breaks it
     std::vector<Finding> findings;
-    for (const SchemaFault& fault : check_against_schema(*document, session.program_folder))
+    for (const SchemaFault& fault : schema.faults_of(*document))
         findings.push_back(finding_of(form, fault));
     return findings;
 }
