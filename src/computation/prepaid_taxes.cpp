@@ -21,9 +21,9 @@ struct PrepaidField {
 const std::array<PrepaidField, 6>& prepaid_fields() {
     static const std::array<PrepaidField, 6> fields{{
         // The column's name promises the branch too; it holds the bank alone.
-        {PrepaidColumn::bank_name, "Bank Name", widgets::text_cell(30), 24, "BankBranchName"},
-        {PrepaidColumn::bank_branch, "Bank Branch", widgets::text_cell(50), 24, "BankBranch"},
-        {PrepaidColumn::bsr_code, "BSR Code", widgets::text_cell(7), 10, "BSRCode"},
+        {PrepaidColumn::bank_name, "Bank Name", widgets::text_cell(30), 16, "BankBranchName"},
+        {PrepaidColumn::bank_branch, "Bank Branch", widgets::text_cell(50), 14, "BankBranch"},
+        {PrepaidColumn::bsr_code, "BSR Code", widgets::text_cell(7), 9, "BSRCode"},
         {PrepaidColumn::date_of_deposit, "Date of Deposit", widgets::date_cell({1, 1, 1}, {9999, 12, 31}), 14,
          "DateOfPayment"},
         {PrepaidColumn::challan_number, "Challan Sr. No.", widgets::text_cell(5), 14, "ChallanSrNo"},

@@ -14,6 +14,7 @@ constexpr const char* date_mask = "##/##/####";
 
 frmWealthMain::frmWealthMain(session::Session& session)
     : Screen(session, "frmWealthMain", "Wealth Tax Computation"),
+      lblHeading(*this, "lblHeading", "WEALTH TAX COMPUTATION"),
       cboFY(*this, "cboFY", widgets::ListStyle::pick, "A.Y", {"2014-2015"}),
       txtAssesseeName(*this, "txtAssesseeName", "Assessee Name"),
       mskValuationDate(*this, "mskValuationDate", date_mask, "Valuation Date"),

@@ -36,6 +36,7 @@ class frmWealthMain final : public session::Screen {
 public:
     explicit frmWealthMain(session::Session& session);
 
+    widgets::Label lblHeading;
     widgets::ListField cboFY;
     widgets::TextField txtAssesseeName;
     widgets::MaskedField mskValuationDate;
