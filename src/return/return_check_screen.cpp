@@ -13,11 +13,7 @@ frmReturnCheck::frmReturnCheck(session::Session& session)
     cmdClose.on_click = [this] { session_.screens.unload("frmReturnCheck"); };
 }
 
-void frmReturnCheck::Form_Load() {
-    check();
-}
-
-// Asked for again while it shows: the return may have changed since.
+// Also when it is asked for again while it shows: the return may have changed since.
 void frmReturnCheck::Form_Activate() {
     check();
 }

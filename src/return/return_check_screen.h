@@ -14,7 +14,6 @@ class frmReturnCheck : public session::Screen {
 public:
     explicit frmReturnCheck(session::Session& session);
 
-    void Form_Load() override;
     void Form_Activate() override;
 
     widgets::Label lblSummary{*this, "lblSummary", ""};
