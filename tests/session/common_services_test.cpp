@@ -2,12 +2,16 @@
 
 #include "session/data_folder.h"
 #include "widgets/headless_desk.h"
+#include "widgets/value_text.h"
 
 #include <gtest/gtest.h>
 
 #include <fstream>
 #include <regex>
 #include <sstream>
+
+#include <sqlite3.h>
+#include <stdlib.h>
 
 namespace levora::session {
 namespace {
@@ -193,11 +197,92 @@ TEST_F(ErrorPathTest, TheRegistryGivesTextsAndNumbersAsText) {
 TEST_F(ErrorPathTest, VariablesAreFoundByTheirNames) {
     session.AssesseeNo = 17;
     session.IsCompanyAssessee = true;
-    EXPECT_EQ(std::get<double>(session.variable("AssesseeNo").value), 17);
-    EXPECT_TRUE(std::get<bool>(session.variable("IsCompanyAssessee").value));
-    EXPECT_TRUE(session.variable("TaxDb").found);
-    EXPECT_TRUE(std::holds_alternative<std::monostate>(session.variable("TaxDb").value));
-    EXPECT_FALSE(session.variable("assesseeno").found);
+    session.CurrentFY = "2014-2015";
+    session.OriFillInterestRate = 1.25F;
+    std::string seen;
+    for (const char* name : {"SqlText",
+                             "CurrentFY",
+                             "AYStartYear",
+                             "AssesseeNo",
+                             "DataFolder",
+                             "TaxConnectString",
+                             "AssesseeConnectString",
+                             "ITConnectString",
+                             "FormsConnectString",
+                             "TaxDb",
+                             "AssesseeDb",
+                             "ITDb",
+                             "FormsDb",
+                             "ComputerName",
+                             "IsServerInstall",
+                             "IsClientInstall",
+                             "IsNetworkInstall",
+                             "IsCompanyAssessee",
+                             "UseResidentialAddress",
+                             "BusinessAssetFlag",
+                             "DeemedAssetFlag",
+                             "AssetRowName",
+                             "OriFillMonthsLate",
+                             "OriFillInterestRate",
+                             "ChallanReport",
+                             "FormBBReport",
+                             "WealthReport",
+                             "SheetRowCount",
+                             "SheetGridName",
+                             "PrintSource",
+                             "PreviewSource",
+                             "XmlIndent",
+                             "XmlTagStack",
+                             "XmlTagTop",
+                             "assesseeno"}) {
+        const Session::Variable variable = session.variable(name);
+        const auto& value = variable.value;
+        if (!variable.found) seen += std::string("no ") + name;
+        if (const auto* text = std::get_if<std::string>(&value)) seen += "'" + *text + "' ";
+        if (const auto* number = std::get_if<double>(&value)) seen += number_text(*number) + " ";
+        if (const auto* truth = std::get_if<bool>(&value)) seen += *truth ? "true " : "false ";
+        if (variable.found && std::holds_alternative<std::monostate>(value)) seen += "object ";
+    }
+    EXPECT_EQ(seen,
+              "'' '2014-2015' '' 17 '' '' '' '' '' object object object object '' false false false true "
+              "false false false '' 0 1.25 object object object 0 '' 0 0 0 object 0 no assesseeno");
+}
+
+TEST_F(ErrorPathTest, TheLogGoesToTheUserWhereTheProgramsFolderTakesNone) {
+    ::setenv("XDG_STATE_HOME", folder.path().c_str(), 1);
+    Session installed({desk, settings, folder.path() + "/no such folder", "", ""});
+    LogError(installed, "frmX - Y", Failure(5, "z"));
+    ::unsetenv("XDG_STATE_HOME");
+    std::ostringstream text;
+    text << std::ifstream(folder.path() + "/levora-wealth-tax/ErrorLog.txt").rdbuf();
+    EXPECT_TRUE(text.str().ends_with("#,\"frmX - Y\",5,\"z\"\n")) << text.str();
+}
+
+TEST_F(ErrorPathTest, ThePreviewComesUpAfresh) {
+    int made = 0;
+    session.screens.define("frmRepPreview", [&] {
+        ++made;
+        return std::make_unique<Screen>(session, "frmRepPreview", "");
+    });
+    PreviewForm(session);
+    PreviewForm(session);
+    EXPECT_EQ(made, 2);
+    EXPECT_TRUE(session.screens.find("frmRepPreview")->visible());
+}
+
+TEST_F(ErrorPathTest, EveryStoreGoesDownThoughOneFails) {
+    session.FormsDb.open(folder.connect_string(Store::forms));
+    session.TaxDb.execute("INSERT INTO Enclosure (Description) VALUES ('x')");
+    session.FormsDb.execute("INSERT INTO Challan (Total) VALUES (1)");
+    sqlite3* reader = nullptr; // keeps the first store from being written
+    sqlite3_open(folder.file(Store::tax).c_str(), &reader);
+    sqlite3_exec(reader, "BEGIN; SELECT * FROM Enclosure", nullptr, nullptr, nullptr);
+    session.TaxDb.set_longest_wait(std::chrono::milliseconds(10));
+    EXPECT_EQ(testing::failure_of([&] { session.commit_all(); }).substr(0, 2), "5 ");
+    EXPECT_EQ(folder.rows(Store::forms, "SELECT Total FROM Challan"), "1");
+    sqlite3_close(reader);
+    session.commit_all();
+    EXPECT_EQ(folder.rows(Store::tax, "SELECT Description FROM Enclosure"), "x");
 }
 
 } // namespace

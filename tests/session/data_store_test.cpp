@@ -1,12 +1,16 @@
 #include "session/data_store.h"
 
 #include "session/data_folder.h"
+#include "widgets/value_text.h"
 
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <thread>
 
+#include <sqlite3.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace levora::session {
 namespace {
@@ -88,6 +92,58 @@ TEST_F(DataStoreTest, ValuesThatDoNotFitAreRefusedByNameAndValue) {
         RowSet rows = new_row(tax, each.table);
         EXPECT_EQ(failure_of([&] { rows.set(each.column, each.value); }), each.failure);
     }
+}
+
+TEST_F(DataStoreTest, ValuesAreKeptAsTheirColumnsHoldThem) {
+    RowSet rows = new_row(forms, "Challan");
+    rows.set("Total", 1234.5);         // whole, halves to the even neighbour
+    rows.set("IncomeTax", "1,00,000"); // as people write it
+    rows.set("TypeOfPayment", 300);
+    rows.set("ChqNo", Value());
+    rows.update();
+    EXPECT_TRUE(rows.eof() == false && rows["Total"].is_whole());
+    EXPECT_EQ(failure_of([&] { rows.set("Total", 1e17); }), "6 column \"Total\": Overflow");
+    forms.commit();
+    EXPECT_EQ(folder.rows(Store::forms, "SELECT Total, IncomeTax, typeof(TypeOfPayment), ChqNo FROM Challan"),
+              "1234|100000|text|Null");
+    RowSet items = new_row(tax, "jewellery");
+    items.set("DescAndWeiOfPreAndSemiPreStones", 0);
+    items.set("NetAmt", -12.5);
+    items.update();
+    items.add_new();
+    items.set("DescAndWeiOfPreAndSemiPreStones", "two rubies");
+    items.update();
+    tax.commit();
+    EXPECT_EQ(folder.rows(Store::tax,
+                          "SELECT DescAndWeiOfPreAndSemiPreStones, "
+                          "typeof(DescAndWeiOfPreAndSemiPreStones), NetAmt, typeof(NetAmt) FROM jewellery"),
+              "0|integer|-12.5|text; two rubies|text|Null|null");
+
+    RowSet read = tax.open_rows("Select * From [jewellery] Order By JwelleryNo");
+    std::string seen;
+    for (; !read.eof(); read.move_next())
+        seen += read["NetAmt"].text() + ";" + number_text(read["NetAmt"].number()) + " ";
+    EXPECT_EQ(seen, "-12.5;-12.5 ;0 ");
+    EXPECT_EQ(failure_of([&] { read.move_next(); }), "3021 No current record.");
+}
+
+TEST_F(DataStoreTest, AReaderWaitsForAWriterAndThenSaysWhoIsInTheWay) {
+    sqlite3* foreign = nullptr; // knows nothing of gates
+    sqlite3_open(folder.file(Store::tax).c_str(), &foreign);
+    sqlite3_exec(foreign, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
+    tax.set_longest_wait(std::chrono::milliseconds(60));
+    EXPECT_EQ(failure_of([&] { (void)tax.open_rows("Enclosure"); }),
+              "5 " + folder.file(Store::tax) + ": database is locked: another program keeps it for too long");
+    std::thread leaves([&] {
+        ::usleep(20000);
+        sqlite3_exec(foreign, "COMMIT", nullptr, nullptr, nullptr);
+    });
+    tax.set_longest_wait(std::chrono::seconds(10));
+    EXPECT_TRUE(tax.open_rows("Enclosure").eof());
+    leaves.join();
+    sqlite3_close(foreign);
+    // The turn that the reader took meanwhile is free again.
+    EXPECT_NO_THROW(folder.run(Store::tax, "DELETE * FROM Enclosure"));
 }
 
 TEST_F(DataStoreTest, ChallanNumberIsKnownRightAfterAddNewAndNeverGivenTwice) {

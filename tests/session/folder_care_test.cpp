@@ -147,6 +147,20 @@ TEST_F(FolderCareTest, AnImportThatFailsLeavesNothing) {
     EXPECT_FALSE(std::filesystem::exists(elsewhere.path() + "/ITR/WT 17 2014-2015R"));
 }
 
+TEST_F(FolderCareTest, WorkingCopiesThatAreThereAlreadyAreNotWrittenOver) {
+    std::ofstream(folder.path() + "/ITR/WT 17 2014-2015") << "first";
+    export_client(folder.path(), 17, file);
+    std::filesystem::create_directory(elsewhere.path() + "/ITR");
+    std::ofstream(elsewhere.path() + "/ITR/WT 17 2014-2015R") << "kept";
+    EXPECT_EQ(failure_of([&] { import_client(file, elsewhere.path()); }),
+              "75 " + elsewhere.path() + "/ITR/WT 17 2014-2015R: File exists");
+    EXPECT_EQ(read_whole_file(elsewhere.path() + "/ITR/WT 17 2014-2015R"), "kept");
+    EXPECT_FALSE(std::filesystem::exists(elsewhere.path() + "/ITR/WT 17 2014-2015")) << "taken back";
+    EXPECT_EQ(elsewhere.rows(Store::tax, "SELECT * FROM Enclosure"), "");
+    EXPECT_EQ(failure_of([&] { restore_folder(file, elsewhere.path() + "/x"); }),
+              "75 " + file + ": this is no file of the kind \"Levora Wealth Tax backup 1\"");
+}
+
 TEST(CreateDataFolderTest, LeavesWhatIsThereAlone) {
     const DataFolder folder;
     std::filesystem::remove(folder.file(Store::tax));

@@ -146,6 +146,23 @@ TEST_F(SettingsTest, AHeldValueHidesTheFilesOwnUntilItIsNamed) {
     EXPECT_EQ(shown(settings.read("a", "b")), "none");
 }
 
+TEST_F(SettingsTest, LiesInTheUsersConfigurationFolder) {
+    ::setenv("HOME", "/home/user", 1);
+    ::setenv("XDG_CONFIG_HOME", "relative is not meant", 1);
+    EXPECT_EQ(Settings::default_path(), "/home/user/.config/levora-wealth-tax/settings.toml");
+    ::setenv("XDG_CONFIG_HOME", folder.c_str(), 1);
+    EXPECT_EQ(Settings::default_path(), folder + "/levora-wealth-tax/settings.toml");
+    ::unsetenv("XDG_CONFIG_HOME");
+}
+
+TEST_F(SettingsTest, AFileThatCannotBeReadSaysSoAndStays) {
+    std::filesystem::create_directories(path); // a folder stands in its place
+    Settings settings(path);
+    EXPECT_EQ(settings.fault(), path + ": Is a directory");
+    EXPECT_FALSE(settings.write("a", "b", "c"));
+    EXPECT_TRUE(std::filesystem::is_directory(path));
+}
+
 TEST_F(SettingsTest, SeveralProgramsWriteWithoutLosingOneAnothersValues) {
     constexpr int programs = 4;
     constexpr int writes = 25;

@@ -68,8 +68,10 @@ int figure_in(const DataFolder& folder, int assessee) {
 class PressingDesk : public widgets::HeadlessDesk {
 public:
     int presses = 0;
+    std::function<void()> meanwhile; // before the button is pressed
 
     std::optional<widgets::Answer> show_message(const widgets::MessageBox& box) override {
+        if (meanwhile) meanwhile();
         if (presses-- > 0) queue_answer(box.buttons.front());
         return HeadlessDesk::show_message(box);
     }
@@ -148,6 +150,35 @@ TEST_F(StoreTrustTest, AFaultOfTheDiskAtAnyPointLeavesTheOldRowsOrTheNew) {
         }
     }
     EXPECT_TRUE(find_faults(folder.path()).empty());
+}
+
+TEST_F(StoreTrustTest, RowsTakenBackAreNotBroughtBackOverThoseOfAnotherProgram) {
+    Program program(folder);
+    program.desk.presses = 1;
+    program.desk.meanwhile = [&] {
+        FaultyDisk::mend();
+        Program(folder).save_as_event(2, 7);
+    };
+    // At the commit, when all rows are written.
+    FaultyDisk::fail_at(1, FaultyDisk::Fault::disk_error, FaultyDisk::Lasting::from_then_on);
+    program.session.screens.run_event("frmX - cmdSave_Click", [&] {
+        procedure(program.session, "frmX - Save", [&](const Attempt& attempt) {
+            FaultyDisk::mend();
+            save(program.session.TaxDb, attempt, 1, 2);
+            FaultyDisk::fail_at(1, FaultyDisk::Fault::disk_error, FaultyDisk::Lasting::from_then_on);
+        });
+    });
+    const auto shown = program.desk.take_messages();
+    ASSERT_EQ(shown.size(), 2U);
+    EXPECT_EQ(shown[1].box.text,
+              "4 " + folder.file(Store::tax) +
+                  ": another program has changed these rows meanwhile (nothing of this save is "
+                  "stored)");
+    EXPECT_EQ(figure_in(folder, 1), 1);
+    EXPECT_EQ(figure_in(folder, 2), 7);
+    program.desk.meanwhile = nullptr;
+    program.save_as_event(1, 3);
+    EXPECT_EQ(figure_in(folder, 1), 3);
 }
 
 TEST_F(StoreTrustTest, MemoryThatRunsOutAnywhereLeavesTheOldRowsOrTheNew) {
