@@ -55,14 +55,14 @@ enum class ElementKind {
 
 struct Element {
     ElementKind kind = ElementKind::text;
-    Box box;
-    TextLook look;
-    LineLook line;
-    bool filled = false; // frame: light grey ground
-    std::string name;    // of an object; a fixed text may have one too
-    std::string text;    // the fixed words, or the design text of an object
-    int count = 0;       // digits: squares
-    double pitch = 0;    // digits: from one square to the next
+    Box box = {};
+    TextLook look = {};
+    LineLook line = {};
+    bool filled = false;   // frame: light grey ground
+    std::string name = {}; // of an object; a fixed text may have one too
+    std::string text = {}; // the fixed words, or the design text of an object
+    int count = 0;         // digits: squares
+    double pitch = 0;      // digits: from one square to the next
 };
 
 // A piece of a section that is never split over two pages. Blocks follow one another.

@@ -36,33 +36,15 @@ TextLook read_look(XmlNode& node, TextLook look) {
 }
 
 Element frame(const Box& box, double line) {
-    return {.kind = ElementKind::frame,
-            .box = box,
-            .look = {},
-            .line = {.width = line, .style = LineStyle::solid},
-            .filled = false,
-            .name = {},
-            .text = {}};
+    return {.kind = ElementKind::frame, .box = box, .line = {.width = line, .style = LineStyle::solid}};
 }
 
 Element words(const Box& box, const TextLook& look, std::string text) {
-    return {.kind = ElementKind::text,
-            .box = box,
-            .look = look,
-            .line = {},
-            .filled = false,
-            .name = {},
-            .text = std::move(text)};
+    return {.kind = ElementKind::text, .box = box, .look = look, .text = std::move(text)};
 }
 
 Element object(ElementKind kind, const Box& box, const TextLook& look, XmlNode& node) {
-    return {.kind = kind,
-            .box = box,
-            .look = look,
-            .line = {},
-            .filled = false,
-            .name = node.needed("name"),
-            .text = node.words()};
+    return {.kind = kind, .box = box, .look = look, .name = node.needed("name"), .text = node.words()};
 }
 
 // The label behind a tick box.
@@ -81,8 +63,7 @@ void read_frame(XmlNode& node, std::vector<Element>& elements) {
 
 void read_rule(XmlNode& node, std::vector<Element>& elements) {
     constexpr std::array styles{LineStyle::solid, LineStyle::dotted, LineStyle::dashed, LineStyle::doubled};
-    Element element{
-        .kind = ElementKind::rule, .box = node.box(), .look = {}, .line = {}, .name = {}, .text = {}};
+    Element element{.kind = ElementKind::rule, .box = node.box()};
     element.line.style =
         styles[static_cast<std::size_t>(node.choice("style", {"solid", "dotted", "dashed", "double"}, 0))];
     element.line.width = node.number("line", element.line.style == LineStyle::dotted ? 0.2 : 0.25);
@@ -174,13 +155,7 @@ void read_cell(XmlNode& node, std::vector<Element>& elements) {
     if (!name.empty()) {
         const Box at{from, beside ? box.top : box.bottom - data_height - lower_edge, right,
                      beside ? box.bottom : box.bottom - lower_edge};
-        elements.push_back({.kind = ElementKind::object,
-                            .box = at,
-                            .look = data,
-                            .line = {},
-                            .filled = false,
-                            .name = name,
-                            .text = {}});
+        elements.push_back({.kind = ElementKind::object, .box = at, .look = data, .name = name});
     }
     for (XmlNode child : children) {
         if (child.name() != "choice") child.fault("does not belong into a cell");
@@ -191,10 +166,7 @@ void read_cell(XmlNode& node, std::vector<Element>& elements) {
         elements.push_back({.kind = ElementKind::tick,
                             .box = square,
                             .look = {.size = 11, .align = Align::center},
-                            .line = {},
-                            .filled = false,
-                            .name = child.needed("name"),
-                            .text = {}});
+                            .name = child.needed("name")});
         child.finish();
     }
 }

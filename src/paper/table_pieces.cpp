@@ -95,7 +95,7 @@ private:
         };
         const auto font_of_column = [&](const TableColumn& column) {
             FontKey tried = font;
-            while (!widest_word_fits(tried, column) && tried.size - size_step >= smallest_head)
+            while (!widest_word_fits(tried, column) && tried.size - size_step >= smallest_size)
                 tried.size -= size_step;
             return tried;
         };
@@ -212,8 +212,6 @@ private:
         });
         return total;
     }
-
-    static constexpr double smallest_head = 5;
 
     Fonts& fonts_;
     const document::RowTable& rows_;

@@ -140,8 +140,9 @@ TEST_F(PaperTest, TheBarCodeReadsBackFromThePicture) {
         Report report = shipped("Challan282");
         report.set_text("txtPANBarCode", each.text);
         picture_of(Pages(report), 1, 200).save(QString::fromStdString(folder + "/page.png"));
-        EXPECT_EQ(output_of("zbarimg --nodbus -q --set '*.enable=0' --set code39.enable=1 " + folder + "/page.png"),
-                  each.read);
+        EXPECT_EQ(
+            output_of("zbarimg --nodbus -q --set '*.enable=0' --set code39.enable=1 " + folder + "/page.png"),
+            each.read);
     }
 }
 
