@@ -17,6 +17,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QStackedWidget>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
@@ -249,7 +250,9 @@ void Binding::show_state() {
     if (widget_->isEnabled() != control_.enabled() || !control_.enabled())
         widget_->setEnabled(control_.enabled());
     const bool hidden = !control_.visible();
-    if (widget_->isHidden() != hidden) widget_->setHidden(hidden);
+    // The page of a tab is shown and hidden by its tabs.
+    const bool is_page = qobject_cast<QStackedWidget*>(widget_->parentWidget()) != nullptr;
+    if (!is_page && widget_->isHidden() != hidden) widget_->setHidden(hidden);
     if (label_ && label_->isHidden() != hidden) label_->setHidden(hidden);
     if (widget_->toolTip() != to_qt(control_.tooltip())) widget_->setToolTip(to_qt(control_.tooltip()));
     if (ground_ == control_.backcolor() && ink_ == control_.forecolor()) return;

@@ -158,6 +158,8 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     if (index == view_.currentIndex() && view_.selected_cells() <= 1) {
         // The active cell is framed, so that its ground and ink stay readable.
         cell.state &= ~QStyle::State_Selected;
+        const QVariant ground = index.data(Qt::BackgroundRole);
+        painter->fillRect(cell.rect, ground.isValid() ? ground.value<QBrush>() : option.palette.brush(QPalette::Base));
     }
     cell.state &= ~QStyle::State_HasFocus;
     const QStyle* style = option.widget ? option.widget->style() : QApplication::style();

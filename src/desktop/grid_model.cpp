@@ -5,6 +5,7 @@
 #include "widgets/grid.h"
 
 #include <QApplication>
+#include <QBrush>
 #include <QPalette>
 
 namespace levora::desktop {
@@ -53,8 +54,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     }
     case Qt::BackgroundRole: {
         const widgets::Color color = grid_->cell_backcolor(column, row);
-        if (color) return ground_of(*color, QApplication::palette());
-        if (grid_->cell_locked(column, row)) return locked_ground(QApplication::palette());
+        if (color) return QBrush(ground_of(*color, QApplication::palette()));
+        if (grid_->cell_locked(column, row)) return QBrush(locked_ground(QApplication::palette()));
         return {};
     }
     case Qt::CheckStateRole:
