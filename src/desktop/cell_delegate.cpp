@@ -159,7 +159,8 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         // The active cell is framed, so that its ground and ink stay readable.
         cell.state &= ~QStyle::State_Selected;
         const QVariant ground = index.data(Qt::BackgroundRole);
-        painter->fillRect(cell.rect, ground.isValid() ? ground.value<QBrush>() : option.palette.brush(QPalette::Base));
+        painter->fillRect(cell.rect,
+                          ground.isValid() ? ground.value<QBrush>() : option.palette.brush(QPalette::Base));
     }
     cell.state &= ~QStyle::State_HasFocus;
     const QStyle* style = option.widget ? option.widget->style() : QApplication::style();

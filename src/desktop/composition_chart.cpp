@@ -23,7 +23,7 @@ void CompositionChart::show_bars(std::vector<Bar> bars) {
         words += bar.name + QStringLiteral(" ") + bar.figure;
     setAccessibleName(tr("Composition of the wealth"));
     setAccessibleDescription(words.join(QStringLiteral("; ")));
-    setMinimumHeight(static_cast<int>(bars_.size()) * row_height);
+    updateGeometry();
     update();
 }
 

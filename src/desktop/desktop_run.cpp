@@ -1,7 +1,10 @@
 #include "desktop/desktop_run.h"
 
+#include "desktop/paper_windows.h"
 #include "desktop/screen_window.h"
 #include "desktop/sheet_extras.h"
+#include "paper/sheet_paper.h"
+#include "widgets/form.h"
 
 namespace levora::desktop {
 
@@ -22,6 +25,7 @@ DesktopRun::DesktopRun(const RunOptions& options, std::unique_ptr<DesktopDesk> o
         if (on_ended) on_ended();
     });
     QObject::connect(&windows_, &Windows::made, [this](ScreenWindow* window) { window_made(window); });
+    tie_paper();
 }
 
 DesktopRun::~DesktopRun() = default;
@@ -31,8 +35,24 @@ bool DesktopRun::start() {
     return program_.running();
 }
 
+void DesktopRun::tie_paper() {
+    if (!own_desk_) return;
+    own_desk_->on_print_sheet = [this](const widgets::Grid& grid) { print_grid_sheet(grid, *own_desk_); };
+    own_desk_->on_preview_sheet = [this](const widgets::Grid& grid) {
+        sheet_ = std::make_shared<const paper::Pages>(paper::pages_of_sheet(grid));
+        if (ScreenWindow* open = windows_.find("frmSprPreview"))
+            add_sheet_pages(*open, sheet_, own_desk_.get());
+    };
+    program_.session().print_report = [this](const std::shared_ptr<document::Report>& report) {
+        print_report(*report, *own_desk_);
+    };
+}
+
 void DesktopRun::window_made(ScreenWindow* window) {
-    add_sheet_extras(*window);
+    const std::string& screen = window->form()->name();
+    if (screen == "frmWealthMain") add_sheet_extras(*window);
+    if (screen == "frmRepPreview") add_report_pages(*window, own_desk_.get());
+    if (screen == "frmSprPreview") add_sheet_pages(*window, sheet_, own_desk_.get());
 }
 
 } // namespace levora::desktop

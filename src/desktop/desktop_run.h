@@ -10,6 +10,10 @@
 #include <optional>
 #include <string>
 
+namespace levora::paper {
+class Pages;
+}
+
 namespace levora::desktop {
 
 struct RunOptions {
@@ -41,12 +45,13 @@ public:
 private:
     DesktopRun(const RunOptions& options, std::unique_ptr<DesktopDesk> own, widgets::Desk* other);
     void window_made(ScreenWindow* window);
-    void paper_for(ScreenWindow& window);
+    void tie_paper();
 
     session::Settings settings_;
     std::unique_ptr<DesktopDesk> own_desk_;
     program::Program program_;
     Windows windows_;
+    std::shared_ptr<const paper::Pages> sheet_; // of the grid previewed last
 };
 
 } // namespace levora::desktop

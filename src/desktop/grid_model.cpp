@@ -15,10 +15,10 @@ using widgets::Grid;
 
 std::string shown_text(const Grid& grid, int column, int row) {
     const std::string& text = grid.text(column, row);
-    if (text.empty()) return text;
     const widgets::CellDesign& design = grid.design(column, row);
+    if (design.kind == CellKind::check) return design.caption;
+    if (text.empty()) return text;
     if (design.kind == CellKind::number && design.grouped) return group_indian_text(text);
-    if (design.kind == CellKind::check) return {};
     return text;
 }
 
@@ -46,7 +46,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
         return to_qt(grid_->text(column, row));
     case Qt::TextAlignmentRole: {
         const bool figure = kind == CellKind::number || kind == CellKind::percent;
-        const bool centred = kind == CellKind::button || kind == CellKind::check;
+        const bool centred = kind == CellKind::button;
         return QVariant((figure    ? Qt::AlignRight
                          : centred ? Qt::AlignHCenter
                                    : Qt::AlignLeft) |

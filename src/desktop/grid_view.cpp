@@ -124,7 +124,6 @@ void GridView::apply_structure() {
 void GridView::size_columns() {
     QHeaderView* header = horizontalHeader();
     const int character = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    // Told per grid in the layout file: the last column takes what is left.
     for (int column = 1; column <= grid_->columns(); ++column) {
         const int section = column - 1;
         if (header->isSectionHidden(section) != grid_->hidden(column))

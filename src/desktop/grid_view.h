@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QTableView>
 
 #include <string>
@@ -82,7 +83,8 @@ private:
     Acts* acts_ = nullptr;
     GridModel* model_ = nullptr;
     QLabel* corner_ = nullptr;
-    QString first_typed_; // null opens an editor on what the cell holds
+    QString first_typed_;         // null opens an editor on what the cell holds
+    QHash<int, int> told_widths_; // in pixels, by section
     bool structure_dirty_ = false;
     int changes_ = 0; // what the grid told since the view was tied to it
 };

@@ -14,6 +14,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QMenu>
 #include <QScreen>
@@ -183,7 +184,7 @@ void ScreenWindow::follow_visibility() {
         hide();
         return;
     }
-    setWindowModality(form_->modal() ? Qt::ApplicationModal : Qt::NonModal);
+    if (!inside_) setWindowModality(form_->modal() ? Qt::ApplicationModal : Qt::NonModal);
     show();
     raise();
     activateWindow();
@@ -249,6 +250,15 @@ bool ScreenWindow::edit_cell(widgets::Grid& grid, int column, int row, const std
         tell({});
     }
     return done;
+}
+
+void ScreenWindow::take_inside(ScreenWindow& other) {
+    auto* place = centralWidget()->findChild<QWidget*>(QStringLiteral("inside"));
+    if (!place || !place->layout()) return;
+    other.setWindowFlags(Qt::Widget);
+    place->layout()->addWidget(&other);
+    statusBar()->hide(); // the one inside tells
+    other.inside_ = true;
 }
 
 void ScreenWindow::undo() {
@@ -324,7 +334,7 @@ void ScreenWindow::restore_place() {
 }
 
 void ScreenWindow::keep_place() const {
-    if (!isVisible()) return;
+    if (!isVisible() || inside_) return;
     QSettings places;
     places.setValue(QStringLiteral("places/") + to_qt(form_->name()), saveGeometry());
 }

@@ -35,6 +35,9 @@ public:
     // Comes up as the screen says: shown or hidden, modal or not.
     void follow_visibility();
 
+    // Another screen's window becomes the content of this one.
+    void take_inside(ScreenWindow& other);
+
     void undo();
     void redo();
 
@@ -90,6 +93,7 @@ private:
     QStringList faults_;
     QLabel* foot_ = nullptr;
     bool select_on_release_ = false;
+    bool inside_ = false; // drawn within another screen's window
 };
 
 } // namespace levora::desktop

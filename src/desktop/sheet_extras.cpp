@@ -43,7 +43,8 @@ QString short_words(const std::string& label) {
 
 void show_composition(const ScreenWindow& window, CompositionChart& chart) {
     // The panels of challans and enclosures take its place.
-    const bool room = !window.form()->find("frSATax")->visible() && !window.form()->find("frEnclosure")->visible();
+    const bool room =
+        !window.form()->find("frSATax")->visible() && !window.form()->find("frEnclosure")->visible();
     if (QWidget* card = chart.parentWidget(); card->isHidden() == room) card->setVisible(room);
     if (!room) return;
     std::vector<CompositionChart::Bar> bars;

@@ -43,6 +43,9 @@ void Windows::loaded(widgets::Form& form) {
         check_end();
     });
     connect(window, &ScreenWindow::settled, this, &Windows::check_end);
+    // The return stands inside its parent window.
+    if (form.name() == "frmFormBA")
+        if (ScreenWindow* parent = find("frmITMDIParent")) parent->take_inside(*window);
     emit made(window);
 }
 

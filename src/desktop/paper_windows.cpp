@@ -1,0 +1,98 @@
+#include "desktop/paper_windows.h"
+
+#include "desktop/desktop_desk.h"
+#include "desktop/page_view.h"
+#include "desktop/qt_text.h"
+#include "desktop/screen_window.h"
+#include "paper/output.h"
+#include "paper/pages.h"
+#include "paper/sheet_paper.h"
+#include "reports/preview_screens.h"
+#include "widgets/failure.h"
+
+#include <QFileDialog>
+#include <QPrinter>
+
+namespace levora::desktop {
+
+namespace {
+
+PageSource source_of(const std::shared_ptr<const paper::Pages>& pages) {
+    PageSource source;
+    source.count = pages->count();
+    source.size = pages->size();
+    source.paint = [pages](QPainter& painter, int page, double scale) { pages->paint(painter, page, scale); };
+    source.find = [pages](const QString& text) {
+        std::vector<PageSource::Place> places;
+        for (const paper::Pages::Found& found : pages->find(text))
+            places.push_back({found.page, found.area});
+        return places;
+    };
+    return source;
+}
+
+void tell_failure(widgets::Desk& desk, const Failure& failure) {
+    desk.show_message(
+        {failure.what(), "Levora Wealth Tax", widgets::Icon::exclamation, {widgets::Answer::ok}});
+}
+
+void print_pages(const paper::Pages& pages, DesktopDesk& desk, int copies) {
+    try {
+        if (desk.printer()) paper::print(pages, *desk.printer(), copies);
+    } catch (const Failure& failure) {
+        tell_failure(desk, failure);
+    }
+}
+
+void export_pages(const paper::Pages& pages, QWidget& parent, DesktopDesk& desk) {
+    const QString path = QFileDialog::getSaveFileName(&parent, QObject::tr("Export as PDF"),
+                                                      to_qt(pages.title()) + QStringLiteral(".pdf"),
+                                                      QObject::tr("PDF files (*.pdf)"));
+    if (path.isEmpty()) return;
+    try {
+        paper::save_pdf(pages, from_qt(path));
+    } catch (const Failure& failure) {
+        tell_failure(desk, failure);
+    }
+}
+
+void show_in(PageView& view, const std::shared_ptr<const paper::Pages>& pages, DesktopDesk* desk) {
+    view.show_pages(source_of(pages));
+    view.disconnect(SIGNAL(print_asked()));
+    view.disconnect(SIGNAL(export_asked()));
+    if (!desk) return;
+    QObject::connect(&view, &PageView::print_asked, &view, [pages, desk] {
+        if (desk->choose_printer()) print_pages(*pages, *desk, 1);
+    });
+    QObject::connect(&view, &PageView::export_asked, &view,
+                     [pages, desk, &view] { export_pages(*pages, view, *desk); });
+}
+
+} // namespace
+
+void add_report_pages(ScreenWindow& window, DesktopDesk* desk) {
+    auto* view = window.findChild<PageView*>();
+    if (!view) return;
+    QObject::connect(&window, &ScreenWindow::came_up, view, [&window, view, desk] {
+        if (!window.attached()) return;
+        const auto& report = static_cast<const reports::frmRepPreview*>(window.form())->report();
+        if (report) show_in(*view, std::make_shared<const paper::Pages>(*report), desk);
+    });
+}
+
+void add_sheet_pages(ScreenWindow& window, std::shared_ptr<const paper::Pages> pages, DesktopDesk* desk) {
+    auto* view = window.findChild<PageView*>();
+    if (view && pages) show_in(*view, pages, desk);
+}
+
+void print_report(const document::Report& report, DesktopDesk& desk) {
+    if (!desk.printer() && !desk.choose_printer()) return;
+    print_pages(paper::Pages(report), desk, report.copies);
+}
+
+void print_grid_sheet(const widgets::Grid& grid, DesktopDesk& desk) {
+    if (!desk.printer() && !desk.choose_printer()) return;
+    print_pages(paper::pages_of_sheet(grid), desk, 1);
+}
+
+} // namespace levora::desktop
