@@ -174,14 +174,21 @@ private:
             state_chosen(property, immovable_column::state, row);
         }
         const Grid& movable = form_.sprMovableProperty;
-        for (int row = 1; row <= movable.data_rows(); ++row)
-            if (movable.index(movable_column::description, row) < 0)
-                add(on_cell(movable, movable_column::description, row, "this is no kind of the list"));
+        for (int row = 1; row <= movable.data_rows(); ++row) {
+            if (movable.index(movable_column::description, row) >= 0) continue;
+            add(on_cell(movable, movable_column::description, row,
+                        movable.row_has_data(row) ? "this is no kind of the list"
+                                                  : "this row is empty, and the file would have it"));
+        }
         stones();
     }
 
     void state_chosen(const Grid& grid, int column, int row) {
-        if (grid.text(column, row).empty()) add(on_cell(grid, column, row, "no state is chosen"));
+        if (grid.index(column, row) >= 0) return;
+        const std::string& text = grid.text(column, row);
+        add(on_cell(grid, column, row,
+                    text.empty() ? "no state is chosen"
+                                 : "\"" + text + "\" is none of the states of the list"));
     }
 
     void stones() {

@@ -161,6 +161,12 @@ TEST_F(FillTest, EverySchedule) {
     EXPECT_EQ(f.txtTotalTaxAndInterest.text() + " " + f.txtAmtPayable.text(), "1530 530");
 }
 
+TEST_F(FillTest, StateThatTheSchedulesSpellOtherwiseComesThrough) {
+    add("Urban Land", "AssetType, State", "0, 'Tamil Nadu'");
+    EXPECT_EQ(form().sprImmovableProperty.text(immovable_column::state, 1), "Tamil Nadu");
+    EXPECT_EQ(form().sprImmovableProperty.index(immovable_column::state, 1), -1);
+}
+
 TEST_F(FillTest, WantedJewelleryTotalWaitsForAnEdit) {
     add("jewellery", "ItemDesc, TotalValOfJewellery, NetAmt", "'Ring', 900, 900");
     frmFormBA& f = form();
