@@ -20,7 +20,28 @@ QRectF area_of(Fonts& fonts, const TextMark& mark) {
     return mark.clip ? area.intersected(*mark.clip) : area;
 }
 
-// Pairs of texts that lie over one another, and texts that leave the sheet.
+// The upright edges of frames and rules.
+std::vector<QLineF> upright_edges(const Marks& page) {
+    std::vector<QLineF> edges;
+    for (const Mark& mark : page) {
+        if (const auto* frame = std::get_if<RectangleMark>(&mark)) {
+            edges.emplace_back(frame->area.topLeft(), frame->area.bottomLeft());
+            edges.emplace_back(frame->area.topRight(), frame->area.bottomRight());
+        } else if (const auto* rule = std::get_if<LineMark>(&mark); rule && rule->line.dx() == 0) {
+            edges.push_back(rule->line);
+        }
+    }
+    return edges;
+}
+
+bool crosses(const QLineF& edge, const QRectF& text) {
+    constexpr double touch = 0.05;
+    return edge.x1() > text.left() + touch && edge.x1() < text.right() - touch &&
+           std::max(edge.y1(), edge.y2()) > text.top() + touch &&
+           std::min(edge.y1(), edge.y2()) < text.bottom() - touch;
+}
+
+// Texts that lie over one another or over the edge of a box, and texts that leave the sheet.
 std::string collisions(const Report& report) {
     Fonts fonts;
     std::string all;
@@ -31,10 +52,14 @@ std::string collisions(const Report& report) {
         for (const Mark& mark : page)
             if (const auto* text = std::get_if<TextMark>(&mark))
                 texts.emplace_back(area_of(fonts, *text), text->text.toStdString());
+        const std::vector<QLineF> edges = upright_edges(page);
         const QRectF sheet(0, 0, report.layout().page_width, report.layout().page_height);
         for (std::size_t one = 0; one < texts.size(); ++one) {
             if (!sheet.contains(texts[one].first))
                 all += std::to_string(number) + ": off the sheet: " + texts[one].second + "\n";
+            for (const QLineF& edge : edges)
+                if (crosses(edge, texts[one].first))
+                    all += std::to_string(number) + ": over an edge: " + texts[one].second + "\n";
             for (std::size_t other = one + 1; other < texts.size(); ++other) {
                 const QRectF common = texts[one].first.intersected(texts[other].first);
                 if (common.width() > 0.05 && common.height() > 0.05)
