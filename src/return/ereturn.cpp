@@ -2,6 +2,7 @@
 
 #include "return/windows_1252.h"
 #include "session/file_faults.h"
+#include "session/whole_files.h"
 #include "widgets/failure.h"
 #include "widgets/value_text.h"
 
@@ -9,8 +10,6 @@
 #include <filesystem>
 #include <system_error>
 
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace levora::form_ba {
@@ -18,46 +17,6 @@ namespace levora::form_ba {
 namespace {
 
 constexpr int columns_per_level = 2;
-
-// A file in writing, which goes away again unless it is kept.
-class FileBeside {
-public:
-    explicit FileBeside(const std::string& path) : path_(path + ".writing") {
-        descriptor_ =
-            ::open(path_.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, session::shared_file_mode);
-        if (descriptor_ < 0) session::throw_file_fault(path, errno);
-        (void)::fchmod(descriptor_, session::shared_file_mode);
-    }
-    ~FileBeside() {
-        if (descriptor_ >= 0) ::close(descriptor_);
-        if (!kept_) ::unlink(path_.c_str());
-    }
-    FileBeside(const FileBeside&) = delete;
-    FileBeside& operator=(const FileBeside&) = delete;
-
-    void write(std::string_view bytes) {
-        while (!bytes.empty()) {
-            const ssize_t written = ::write(descriptor_, bytes.data(), bytes.size());
-            if (written < 0 && errno == EINTR) continue;
-            if (written < 0) session::throw_file_fault(path_, errno);
-            bytes.remove_prefix(static_cast<std::size_t>(written));
-        }
-        if (::fsync(descriptor_) != 0) session::throw_file_fault(path_, errno);
-    }
-
-    void rename_to(const std::string& path) {
-        const int closed = ::close(descriptor_);
-        descriptor_ = -1;
-        if (closed != 0) session::throw_file_fault(path_, errno);
-        if (::rename(path_.c_str(), path.c_str()) != 0) session::throw_file_fault(path, errno);
-        kept_ = true;
-    }
-
-private:
-    std::string path_;
-    int descriptor_ = -1;
-    bool kept_ = false;
-};
 
 } // namespace
 
@@ -73,9 +32,7 @@ void write_whole_file(const std::string& path, std::string_view bytes) {
     const std::string place = not_there ? path : target.string();
     if (!not_there && std::filesystem::is_directory(target)) session::throw_file_fault(path, EISDIR);
     if (!not_there && ::access(place.c_str(), W_OK) != 0) session::throw_file_fault(path, errno);
-    FileBeside file(place);
-    file.write(bytes);
-    file.rename_to(place);
+    session::replace_whole_file(place, bytes, session::shared_file_mode);
 }
 
 void eReturn::write_line(std::string_view line) {

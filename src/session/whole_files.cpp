@@ -5,9 +5,11 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <memory>
 #include <vector>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -18,7 +20,7 @@ namespace {
 class OpenFile {
 public:
     OpenFile(const std::string& path, int descriptor) : path_(path), descriptor_(descriptor) {
-        if (descriptor_ < 0) throw_file_fault(path_, errno);
+        check(descriptor_ >= 0);
     }
     ~OpenFile() { ::close(descriptor_); }
     OpenFile(const OpenFile&) = delete;
@@ -29,42 +31,76 @@ public:
     }
     [[nodiscard]] int descriptor() const { return descriptor_; }
 
+    void write(std::string_view content) const {
+        while (!content.empty()) {
+            const ssize_t count = ::write(descriptor_, content.data(), content.size());
+            if (count < 0 && errno == EINTR) continue;
+            check(count >= 0);
+            content.remove_prefix(static_cast<std::size_t>(count));
+        }
+    }
+
 private:
     std::string path_;
     int descriptor_;
 };
 
-void write_all(const OpenFile& file, std::string_view content) {
-    while (!content.empty()) {
-        const ssize_t count = ::write(file.descriptor(), content.data(), content.size());
-        if (count < 0 && errno == EINTR) continue;
-        file.check(count >= 0);
-        content.remove_prefix(static_cast<std::size_t>(count));
+// The new file in writing, beside the one that it is for. Its name is always the same, so that what a
+// kill leaves is written over the next time; its lock lets several programs write in turn.
+class FileBeside {
+public:
+    FileBeside(const std::string& path, mode_t mode) : path_(path), beside_(path + ".writing") {
+        for (;;) {
+            file_ = std::make_unique<OpenFile>(
+                path_, ::open(beside_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, mode));
+            file_->check(::flock(file_->descriptor(), LOCK_EX) == 0);
+            if (still_has_its_name()) break; // else another program has put it in place meanwhile
+        }
+        file_->check(::ftruncate(file_->descriptor(), 0) == 0 && ::fchmod(file_->descriptor(), mode) == 0);
     }
-}
-
-// The folder's own entry of the file must reach the disk too.
-void sync_folder_of(const std::string& path) {
-    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
-    const OpenFile directory(
-        path, ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    ::fsync(directory.descriptor());
-}
-
-// Writes the content to a file of another name beside `path`; gives that name.
-std::string write_beside(const std::string& path, std::string_view content, mode_t mode) {
-    std::string beside = path + ".XXXXXX";
-    const OpenFile file(path, ::mkostemp(beside.data(), O_CLOEXEC));
-    try {
-        write_all(file, content);
-        file.check(::fchmod(file.descriptor(), mode) == 0);
-        file.check(::fsync(file.descriptor()) == 0);
-    } catch (const Failure&) {
-        ::unlink(beside.c_str());
-        throw;
+    ~FileBeside() {
+        if (!placed_) ::unlink(beside_.c_str());
     }
-    return beside;
-}
+    FileBeside(const FileBeside&) = delete;
+    FileBeside& operator=(const FileBeside&) = delete;
+
+    void write(std::string_view content) const {
+        file_->write(content);
+        file_->check(::fsync(file_->descriptor()) == 0);
+    }
+    void take_place() {
+        file_->check(::rename(beside_.c_str(), path_.c_str()) == 0);
+        placed_ = true;
+        sync_folder();
+    }
+    // A link is made only where no file stands, unlike a new name.
+    void take_free_place() const {
+        file_->check(::link(beside_.c_str(), path_.c_str()) == 0);
+        sync_folder();
+    }
+
+private:
+    [[nodiscard]] bool still_has_its_name() const {
+        struct stat named {};
+        struct stat open {};
+        return ::stat(beside_.c_str(), &named) == 0 && ::fstat(file_->descriptor(), &open) == 0 &&
+               named.st_ino == open.st_ino;
+    }
+    // The folder's own entry of the file must reach the disk too.
+    void sync_folder() const {
+        const std::filesystem::path folder = std::filesystem::path(path_).parent_path();
+        const int descriptor =
+            ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        if (descriptor < 0) return; // a folder that may be written but not read
+        ::fsync(descriptor);
+        ::close(descriptor);
+    }
+
+    std::string path_;
+    std::string beside_;
+    std::unique_ptr<OpenFile> file_;
+    bool placed_ = false;
+};
 
 } // namespace
 
@@ -82,23 +118,15 @@ std::string read_whole_file(const std::string& path) {
 }
 
 void replace_whole_file(const std::string& path, std::string_view content, mode_t mode) {
-    const std::string beside = write_beside(path, content, mode);
-    if (::rename(beside.c_str(), path.c_str()) != 0) {
-        const int reason = errno;
-        ::unlink(beside.c_str());
-        throw_file_fault(path, reason);
-    }
-    sync_folder_of(path);
+    FileBeside file(path, mode);
+    file.write(content);
+    file.take_place();
 }
 
 void write_new_file(const std::string& path, std::string_view content, mode_t mode) {
-    const std::string beside = write_beside(path, content, mode);
-    // A link is made only where no file stands, unlike a new name.
-    const bool made = ::link(beside.c_str(), path.c_str()) == 0;
-    const int reason = errno;
-    ::unlink(beside.c_str());
-    if (!made) throw_file_fault(path, reason);
-    sync_folder_of(path);
+    const FileBeside file(path, mode);
+    file.write(content);
+    file.take_free_place();
 }
 
 } // namespace levora::session
