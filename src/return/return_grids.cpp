@@ -190,12 +190,8 @@ widgets::CellDesign design_of(ColumnKind kind) {
     case property_head:
         return combo_cell(
             {"AgriculturalLand", "Non-AgriculturalLand", "CommercialBuilding", "ResidentialBuilding"});
-    case state: {
-        // The schedules spell some states otherwise: their text comes through and can be mended here.
-        CellDesign design = combo_cell(session::state_names());
-        design.editable = true;
-        return design;
-    }
+    case state:
+        return combo_cell(session::state_names());
     case opr_state:
         return combo_cell(opr_states);
     case country:

@@ -22,7 +22,7 @@ enum class ColumnKind {
     movable_kind,  // a list that takes a free text too
     weight_unit,   //
     property_head, // the four heads of schedule OPR
-    state,         // the list of cboState, which takes a free text too
+    state,         // the list of cboState
     opr_state,     // schedule OPR's own list
     country,       // fixed "INDIA"
 };

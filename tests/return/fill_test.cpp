@@ -161,9 +161,9 @@ TEST_F(FillTest, EverySchedule) {
     EXPECT_EQ(f.txtTotalTaxAndInterest.text() + " " + f.txtAmtPayable.text(), "1530 530");
 }
 
-TEST_F(FillTest, StateThatTheSchedulesSpellOtherwiseComesThrough) {
+TEST_F(FillTest, StateThatTheListLacksIsLeftWithoutASelection) {
     add("Urban Land", "AssetType, State", "0, 'Tamil Nadu'");
-    EXPECT_EQ(form().sprImmovableProperty.text(immovable_column::state, 1), "Tamil Nadu");
+    EXPECT_EQ(form().sprImmovableProperty.text(immovable_column::state, 1), "");
     EXPECT_EQ(form().sprImmovableProperty.index(immovable_column::state, 1), -1);
 }
 
