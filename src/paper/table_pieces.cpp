@@ -148,7 +148,7 @@ private:
 
     CellLines cell_lines(std::size_t row, const TableColumn& column, double left) {
         const QString text = column.field == "#"
-                                 ? QString::number(static_cast<qulonglong>(row + 1))
+                                 ? QString::number(qulonglong{row} + 1)
                                  : QString::fromStdString(rows_.value(row, column.field).text());
         CellLines cell{.column = &column, .left = left, .font = {.size = table_.data_size}, .lines = {}};
         const double width = column.width - 2 * padding;

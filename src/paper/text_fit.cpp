@@ -169,10 +169,12 @@ void place_text(Fonts& fonts, const QRectF& box, const document::TextLook& look,
         std::max<qsizetype>(1, static_cast<qsizetype>((box.height() + tolerance) / line_height));
     cut_to(wrapped.lines, most);
     const qsizetype shown = wrapped.lines.size();
-    double top = first_top(box, look.vertical, static_cast<double>(shown) * line_height);
-    for (qsizetype at = 0; at < shown; ++at, top += line_height)
+    const double first = first_top(box, look.vertical, static_cast<double>(shown) * line_height);
+    for (qsizetype at = 0; at < shown; ++at) {
+        const double top = first + static_cast<double>(at) * line_height;
         place_line(fonts, {box.left(), top + (line_height - font_height) / 2, box.width(), font_height},
                    wrapped.font, look.align, wrapped.lines.at(at), marks, look.grey);
+    }
 }
 
 } // namespace levora::paper

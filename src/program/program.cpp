@@ -71,6 +71,7 @@ bool Program::start() {
 
 std::vector<std::string> Program::screen_names() {
     std::vector<std::string> names;
+    names.reserve(screens.size());
     for (const ScreenEntry& screen : screens)
         names.emplace_back(screen.name);
     return names;

@@ -199,7 +199,7 @@ private:
     void fill_property(const PropertyHead& head, const widgets::Grid& grid, int row) {
         std::string address = grid.text(property_column::flat, row);
         for (const int column : address_columns)
-            if (const std::string part = grid.text(column, row); !part.empty()) address += "-" + part;
+            if (const std::string& part = grid.text(column, row); !part.empty()) address += "-" + part;
         report_.set_text(head.cost, number_text(val(grid.text(property_column::cost, row))));
         report_.set_text(head.description, grid.text(property_column::description, row));
         report_.set_text(head.address, address);

@@ -14,7 +14,7 @@ struct _xmlNode;
 // document with a DOCTYPE is refused.
 namespace levora::form_ba {
 
-constexpr std::size_t largest_document = 32 * 1024 * 1024; // bytes
+constexpr std::size_t largest_document = std::size_t{32} << 20U; // 32 MiB
 constexpr int deepest_element = 200;
 
 // An element of a document, good for as long as the document lives. Names are compared as they are
