@@ -18,10 +18,10 @@ namespace {
 // One section of the document and the fields it fills.
 class Section {
 public:
-    explicit Section(XmlNode node) : node_(node) {}
+    explicit Section(const XmlNode& node) : elements_(node) {}
 
     [[nodiscard]] std::string get(std::string_view name, std::string_view otherwise = {}) const {
-        return GetNodeText(node_, name, otherwise);
+        return elements_.text(name, otherwise);
     }
     void text(std::string_view name, TextField& field) const {
         quietly([&] { field.set_text(get(name)); });
@@ -53,8 +53,10 @@ public:
         no.set_value(ticked ? 0 : 1);
     }
 
+    [[nodiscard]] const XmlIndex& elements() const { return elements_; }
+
 private:
-    XmlNode node_;
+    XmlIndex elements_;
 };
 
 void read_person(frmFormBA& form, const Section& general) {
@@ -161,7 +163,7 @@ void ReadFormBAXml(frmFormBA& form, const XmlDocument& document) {
     if (const auto bank = form_ba->child("FBAMain:AssesseeBankDetail")) read_bank(form, Section(*bank));
     if (const auto declaration = form_ba->child("FBAMain:declrn"))
         read_verification(form, Section(*declaration));
-    read_schedules(form, *form_ba);
+    read_schedules(form, *form_ba, general.elements());
 }
 
 } // namespace levora::form_ba

@@ -72,18 +72,16 @@ void read_row(Grid& grid, std::span<const CellElement> cells, int row, const Xml
         quietly([&] { read_cell(grid, each, row, node); });
 }
 
-// The rows of a grid and, where there is one, the total behind them; false when the document has no
-// such row, which leaves grid and total as they were.
-bool read_rows(Grid& grid, const ScheduleElements& elements, const XmlNode& form_ba, TextField* total) {
+// The rows of a grid; false when the document has none, which leaves grid and total as they were.
+bool read_rows(Grid& grid, const ScheduleElements& elements, const XmlNode& form_ba) {
     const std::vector<XmlNode> nodes = form_ba.children(elements.row);
     if (nodes.empty()) return false;
     for (int row = 1; const XmlNode& each : nodes)
         read_row(grid, elements.cells, row++, each);
-    if (total) total->set_text(GetNodeText(form_ba, elements.total, "0"));
     return true;
 }
 
-void read_jewellery(frmFormBA& form, const XmlNode& form_ba) {
+void read_jewellery(frmFormBA& form, const XmlNode& form_ba, const XmlIndex& all) {
     const std::vector<XmlNode> nodes = form_ba.children(sch_jewellery.row);
     if (nodes.empty()) return;
     // Stones of all items share one grid: their rows are counted through the whole document.
@@ -96,17 +94,17 @@ void read_jewellery(frmFormBA& form, const XmlNode& form_ba) {
         }
         ++row;
     }
-    form.txtJewlNetAmtTotal.set_text(GetNodeText(form_ba, sch_jewellery.total, "0"));
+    form.txtJewlNetAmtTotal.set_text(all.text(sch_jewellery.total, "0"));
 }
 
-void read_firms(frmFormBA& form, const XmlNode& form_ba) {
-    if (!read_rows(form.sprAssetInterest, sch_firm_aop, form_ba, nullptr)) return;
+void read_firms(frmFormBA& form, const XmlNode& form_ba, const XmlIndex& all) {
+    if (!read_rows(form.sprAssetInterest, sch_firm_aop, form_ba)) return;
     // Wanted: the address is not read, its column takes the account number as the next one does.
     for (int row = 1; const XmlNode& each : form_ba.children(sch_firm_aop.row))
         form.sprAssetInterest.set_text(firm_column::address, row++,
                                        GetNodeText(each, "FBAMain:PanOfFirm", ""));
     // Wanted: the writer spells this total otherwise, so it reads as "0" and the grid has the word.
-    form.txtTotalInterestAmount.set_text(GetNodeText(form_ba, "FBAMain:TotalValFirmAssetl", "0"));
+    form.txtTotalInterestAmount.set_text(all.text("FBAMain:TotalValFirmAssetl", "0"));
     form.sprAssetInterest_Change();
 }
 
@@ -145,18 +143,26 @@ void read_other_properties(frmFormBA& form, const XmlNode& schedule) {
 
 } // namespace
 
-void read_schedules(frmFormBA& form, const XmlNode& form_ba) {
-    if (read_rows(form.sprScheduleBTP, tax_payment, form_ba, &form.txtAmtBTPTotal))
+void read_schedules(frmFormBA& form, const XmlNode& form_ba, const XmlIndex& all) {
+    const auto total = [&all](const ScheduleElements& elements, TextField& field) {
+        field.set_text(all.text(elements.total, "0"));
+    };
+    if (read_rows(form.sprScheduleBTP, tax_payment, form_ba)) {
+        total(tax_payment, form.txtAmtBTPTotal);
         form.sprScheduleBTP_Change();
-    if (read_rows(form.sprImmovableProperty, sch_immovable_property, form_ba,
-                  &form.txtAggregateImmovableProperty))
+    }
+    if (read_rows(form.sprImmovableProperty, sch_immovable_property, form_ba)) {
+        total(sch_immovable_property, form.txtAggregateImmovableProperty);
         form.sprImmovableProperty_Change();
-    if (read_rows(form.sprMovableProperty, sch_movable_property, form_ba, &form.TotalValMovableProp))
+    }
+    if (read_rows(form.sprMovableProperty, sch_movable_property, form_ba)) {
+        total(sch_movable_property, form.TotalValMovableProp);
         form.sprMovableProperty_Change();
-    read_jewellery(form, form_ba);
-    read_rows(form.sprInducibleNetWealth, sch_wealth_other, form_ba, nullptr);
-    read_firms(form, form_ba);
-    read_rows(form.sprAssetsClaimedExempt, exempt_asset_detail, form_ba, nullptr);
+    }
+    read_jewellery(form, form_ba, all);
+    read_rows(form.sprInducibleNetWealth, sch_wealth_other, form_ba);
+    read_firms(form, form_ba, all);
+    read_rows(form.sprAssetsClaimedExempt, exempt_asset_detail, form_ba);
     if (const auto schedule = form_ba.child("FBAMain:SchOtherProperties"))
         read_other_properties(form, *schedule);
 }

@@ -80,12 +80,15 @@ std::string from_windows_1252(std::string_view bytes) {
 }
 
 bool is_utf8(std::string_view bytes) {
-    while (!bytes.empty()) {
+    const auto beyond_ascii = [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; };
+    for (;;) {
+        const auto* const next = std::find_if(bytes.begin(), bytes.end(), beyond_ascii);
+        if (next == bytes.end()) return true;
+        bytes.remove_prefix(static_cast<std::size_t>(next - bytes.begin()));
         const std::size_t length = decode_utf8(bytes).length;
         if (length == 0) return false;
         bytes.remove_prefix(length);
     }
-    return true;
 }
 
 } // namespace levora::form_ba

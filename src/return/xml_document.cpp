@@ -2,9 +2,12 @@
 
 #include "return/windows_1252.h"
 
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
+#include <utility>
 
 #include <libxml/parser.h>
 #include <libxml/tree.h>
@@ -17,14 +20,30 @@ std::string_view view(const xmlChar* text) {
     return text ? std::string_view(reinterpret_cast<const char*>(text)) : std::string_view();
 }
 
-bool named(const xmlNode* node, std::string_view name) {
-    if (node->type != XML_ELEMENT_NODE) return false;
-    const std::string_view prefix = node->ns ? view(node->ns->prefix) : std::string_view();
-    const std::string_view local = view(node->name);
-    if (prefix.empty()) return local == name;
-    return name.size() == prefix.size() + 1 + local.size() && name.starts_with(prefix) &&
-           name[prefix.size()] == ':' && name.ends_with(local);
-}
+// A name as written, taken apart once for a search through many elements.
+class WrittenName {
+public:
+    explicit WrittenName(std::string_view name) {
+        const std::size_t colon = name.find(':');
+        if (colon != std::string_view::npos) prefix_ = name.substr(0, colon);
+        local_ = colon == std::string_view::npos ? name : name.substr(colon + 1);
+    }
+
+    [[nodiscard]] bool fits(const xmlNode* node) const {
+        return node->type == XML_ELEMENT_NODE && equal(node->name, local_) &&
+               equal(node->ns ? node->ns->prefix : nullptr, prefix_);
+    }
+
+private:
+    static bool equal(const xmlChar* left, std::string_view right) {
+        if (!left) return right.empty();
+        const auto* const text = reinterpret_cast<const char*>(left);
+        return std::strncmp(text, right.data(), right.size()) == 0 && text[right.size()] == '\0';
+    }
+
+    std::string_view prefix_;
+    std::string_view local_;
+};
 
 // The next element in the order of the document, inside `top`; null behind the last.
 const xmlNode* next_below(const xmlNode* node, const xmlNode* top) {
@@ -108,26 +127,44 @@ std::string XmlNode::text() const {
 }
 
 bool XmlNode::is_named(std::string_view name) const {
-    return named(node_, name);
+    return WrittenName(name).fits(node_);
 }
 
 std::vector<XmlNode> XmlNode::children(std::string_view name) const {
+    const WrittenName wanted(name);
     std::vector<XmlNode> found;
     for (const xmlNode* node = node_->children; node; node = node->next)
-        if (named(node, name)) found.emplace_back(node);
+        if (wanted.fits(node)) found.emplace_back(node);
     return found;
 }
 
 std::optional<XmlNode> XmlNode::child(std::string_view name) const {
+    const WrittenName wanted(name);
     for (const xmlNode* node = node_->children; node; node = node->next)
-        if (named(node, name)) return XmlNode(node);
+        if (wanted.fits(node)) return XmlNode(node);
     return std::nullopt;
 }
 
 std::optional<XmlNode> XmlNode::descendant(std::string_view name) const {
+    const WrittenName wanted(name);
     for (const xmlNode* node = next_below(node_, node_); node; node = next_below(node, node_))
-        if (named(node, name)) return XmlNode(node);
+        if (wanted.fits(node)) return XmlNode(node);
     return std::nullopt;
+}
+
+XmlIndex::XmlIndex(const XmlNode& top) {
+    // The parser keeps one copy of each name and of each namespace, so their places tell them apart.
+    std::set<std::pair<const void*, const void*>> seen;
+    for (const xmlNode* node = next_below(top.node_, top.node_); node; node = next_below(node, top.node_))
+        if (node->type == XML_ELEMENT_NODE && seen.emplace(node->name, node->ns).second)
+            first_of_name_.emplace_back(node);
+}
+
+std::string XmlIndex::text(std::string_view name, std::string_view otherwise) const {
+    const WrittenName wanted(name);
+    for (const XmlNode& each : first_of_name_)
+        if (wanted.fits(each.node_)) return each.text();
+    return std::string(otherwise);
 }
 
 std::string GetNodeText(const XmlNode& node, std::string_view name, std::string_view otherwise) {

@@ -31,7 +31,20 @@ public:
     [[nodiscard]] std::optional<XmlNode> descendant(std::string_view name) const;
 
 private:
+    friend class XmlIndex;
     const _xmlNode* node_;
+};
+
+// The first element of every name below one, found in one walk: for many searches through the same
+// large part, of which some find nothing.
+class XmlIndex {
+public:
+    explicit XmlIndex(const XmlNode& top);
+    // As GetNodeText on the same element.
+    [[nodiscard]] std::string text(std::string_view name, std::string_view otherwise) const;
+
+private:
+    std::vector<XmlNode> first_of_name_;
 };
 
 class XmlDocument {
