@@ -38,6 +38,7 @@ TEST_F(PrepaidTest, CellsTakeWhatTheirKindAllows) {
         {"the highest amount", 6, "9999999999", true, "9999999999"},
         {"one more", 6, "10000000000", false, "9999999999"},
         {"below 0", 6, "-1", false, "9999999999"},
+        {"paise stay", 6, "1234.55", true, "1234.55"},
     };
     for (const Case& each : cases) {
         EXPECT_EQ(prepaid().type(each.column, 1, each.typed), each.taken) << each.why;
