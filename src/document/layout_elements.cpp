@@ -12,15 +12,18 @@ namespace {
 
 constexpr double cell_padding = 1;
 constexpr double tick_side = 4;
-constexpr double label_gap = 1.5;    // between a tick box and its label
-constexpr double label_reach = 80;   // where a label is given no width of its own
-constexpr double caption_size = 7;   //
-constexpr double data_height = 4.2;  // of the line at the lower edge of a cell
-constexpr double lower_edge = 0.4;   // between that line, or a tick box, and the cell's edge
+constexpr double label_gap = 1.5;   // between a tick box and its label
+constexpr double label_reach = 80;  // where a label is given no width of its own
+constexpr double caption_size = 7;  //
+constexpr double data_height = 4.2; // of the line at the lower edge of a cell
+constexpr double lower_edge = 0.4;  // between that line, or a tick box, and the cell's edge
+constexpr double smallest_font = 1;
+constexpr double largest_font = 100;
+constexpr double most_squares = 200;
 constexpr double caption_drop = 0.5; // between the cell's upper edge and its caption
 
 TextLook read_look(XmlNode& node, TextLook look) {
-    look.size = node.number("size", look.size);
+    look.size = node.number_between("size", look.size, smallest_font, largest_font);
     look.bold = node.flag("bold") || look.bold;
     look.italic = node.flag("italic") || look.italic;
     look.grey = node.flag("grey");
@@ -96,11 +99,11 @@ void read_tick(XmlNode& node, std::vector<Element>& elements) {
 // Squares side by side, with a label behind a single one.
 void read_squares(XmlNode& node, std::vector<Element>& elements) {
     const Box first = square_box(node, tick_side);
-    const int count = static_cast<int>(node.number("count", 1));
-    const int group = static_cast<int>(node.number("group", count));
+    const int count = static_cast<int>(node.number_between("count", 1, 1, most_squares));
+    const int group = static_cast<int>(node.number_between("group", count, 1, most_squares));
     const double gap = node.number("gap", 0);
     for (int at = 0; at < count; ++at) {
-        const double shift = at * first.width() + (group > 0 ? at / group : 0) * gap;
+        const double shift = at * first.width() + at / group * gap;
         elements.push_back(frame({first.left + shift, first.top, first.right + shift, first.bottom}, 0.25));
     }
     if (std::string text = node.words(); !text.empty())
@@ -120,7 +123,7 @@ void read_digits(XmlNode& node, std::vector<Element>& elements) {
     const Box box = node.box();
     Element element =
         object(ElementKind::digits, box, read_look(node, {.size = 11, .align = Align::center}), node);
-    element.count = static_cast<int>(node.needed_number("count"));
+    element.count = static_cast<int>(node.number_between("count", 1, 1, most_squares));
     element.pitch = node.number("pitch", box.width());
     elements.push_back(std::move(element));
 }
@@ -178,7 +181,7 @@ void read_band(XmlNode& node, std::vector<Element>& elements) {
     ground.filled = true;
     elements.push_back(std::move(ground));
     const Box inside{box.left + cell_padding, box.top, box.right - cell_padding, box.bottom};
-    TextLook look{.size = node.number("size", 9), .bold = true};
+    TextLook look{.size = node.number_between("size", 9, smallest_font, largest_font), .bold = true};
     if (std::string left = node.text("left"); !left.empty()) elements.push_back(words(inside, look, left));
     look.align = Align::center;
     elements.push_back(words(inside, look, node.words()));

@@ -46,8 +46,8 @@ Table read_table(XmlNode& node) {
                 .code = node.text("code"),
                 .title = node.text("title"),
                 .line = node.text("line"),
-                .head_size = node.number("head-size", 6.5),
-                .data_size = node.number("size", 7),
+                .head_size = node.number_between("head-size", 6.5, 1, 100),
+                .data_size = node.number_between("size", 7, 1, 100),
                 .columns = {},
                 .total_field = {},
                 .total_under = {},
@@ -55,7 +55,7 @@ Table read_table(XmlNode& node) {
     node.finish();
     for (XmlNode& child : node.children()) {
         if (child.name() == "column") {
-            table.columns.push_back({.width = child.needed_number("width"),
+            table.columns.push_back({.width = child.number_between("width", 0, 1, 1000),
                                      .field = child.needed("field"),
                                      .caption = child.words(),
                                      .mark = child.text("mark"),
@@ -74,7 +74,8 @@ Table read_table(XmlNode& node) {
 }
 
 Block read_block(XmlNode& node) {
-    Block block{.height = node.needed_number("height"), .elements = {}};
+    node.needed("height");
+    Block block{.height = node.number_between("height", 0, 0, 1000), .elements = {}};
     for (XmlNode& child : node.children())
         read_element(child, block.elements);
     return block;

@@ -76,6 +76,14 @@ double XmlNode::needed_number(const char* attribute) {
     return number(attribute, 0);
 }
 
+double XmlNode::number_between(const char* attribute, double otherwise, double least, double most) {
+    const double value = number(attribute, otherwise);
+    if (value < least || value > most)
+        fault("\"" + std::string(attribute) + "\" is " + number_text(value) + " and not between " +
+              number_text(least) + " and " + number_text(most));
+    return value;
+}
+
 bool XmlNode::flag(const char* attribute) {
     return choice(attribute, {"no", "yes"}, 0) == 1;
 }

@@ -32,6 +32,8 @@ public:
     std::string needed(const char* attribute);
     double number(const char* attribute, double otherwise);
     double needed_number(const char* attribute);
+    // A number inside these bounds.
+    double number_between(const char* attribute, double otherwise, double least, double most);
     bool flag(const char* attribute); // "yes" or "no"; no when absent
     Span span(const char* attribute); // "12-40", or "12" for a span without length
     Box box();                        // from the spans x and y

@@ -62,7 +62,8 @@ void ensure_application() {
 }
 
 QFont font_of(const FontKey& key) {
-    QFont font(family_name(key.family));
+    // A character that the text's family lacks, as the rupee sign, is looked for in the other one first.
+    QFont font(QStringList{family_name(key.family), family_name(Family::ticks)});
     font.setPixelSize(qRound(key.size * millimetres_per_point * units_per_millimetre));
     font.setBold(key.bold);
     font.setItalic(key.italic);

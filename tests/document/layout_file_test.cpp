@@ -39,6 +39,8 @@ TEST(LayoutFileTest, AFaultNamesFileLineAndWhatIsWrong) {
          "321 R.rpt, line 3: <object> has no \"name\""},
         {"a word where a number belongs", R"(<text x="1-2" y="3-4" size="big"/>)",
          "321 R.rpt, line 3: <text> \"size\" is not a number: \"big\""},
+        {"more squares than a page could hold", R"(<squares x="1" y="3" count="1e9"/>)",
+         "321 R.rpt, line 3: <squares> \"count\" is 1000000000 and not between 1 and 200"},
         {"a rule has no area", R"(<rule x="1-2" y="3-4"/>)",
          "321 R.rpt, line 3: <rule> is neither upright nor level"},
         {"two objects of one name",
