@@ -21,17 +21,14 @@ void copy_rows_out(WholeFolder& from, OpenStore& to, const TableRule& table, con
     const StatementResult rows =
         from.run("SELECT * FROM " + as_name(table.name) + " WHERE AssesseeNo = " + assessee_no);
     if (rows.rows.empty()) return;
-    std::string names;
-    std::string places;
+    std::vector<std::string> columns;
     std::vector<std::size_t> wanted; // a later version's columns stay behind
     for (std::size_t i = 0; i < rows.columns.size(); ++i) {
         if (!find_column(table, rows.columns[i])) continue;
-        names += (names.empty() ? "" : ", ") + as_name(rows.columns[i]);
-        places += places.empty() ? "?" : ", ?";
+        columns.push_back(rows.columns[i]);
         wanted.push_back(i);
     }
-    const PreparedStatement insert =
-        to.prepare("INSERT INTO " + as_name(table.name) + " (" + names + ") VALUES (" + places + ")");
+    const PreparedStatement insert = to.prepare(insert_statement(as_name(table.name), columns));
     for (const auto& row : rows.rows) {
         sqlite3_reset(insert.get());
         for (std::size_t i = 0; i < wanted.size(); ++i)

@@ -93,13 +93,11 @@ int Connection::execute(std::string_view statement) {
     if (!prepared) return 0;
     const bool writes = sqlite3_stmt_readonly(prepared.get()) == 0;
     if (writes) store.begin();
-    const int before = sqlite3_total_changes(store.database());
-    while (store.step(prepared.get())) {
-    }
+    const StatementResult result = store.run(prepared.get());
     prepared.reset();
     if (writes) store.remember(translated.text, {});
     store.detach_all();
-    return sqlite3_total_changes(store.database()) - before;
+    return result.rows_touched;
 }
 
 RowSet Connection::open_rows(std::string_view select, RowSetUse use) {
@@ -168,22 +166,10 @@ StatementResult run_statement(const std::string& folder, Store store, std::strin
     const auto opened = std::make_shared<OpenStore>(store_path(folder, store));
     const StatementText translated = translate(statement);
     opened->attach(translated.attached);
-    StatementResult result;
     const PreparedStatement prepared = prepare_select(*opened, translated);
-    if (!prepared) return result;
-    const int count = sqlite3_column_count(prepared.get());
-    result.is_select = count > 0;
-    for (int i = 0; i < count; ++i)
-        result.columns.emplace_back(sqlite3_column_name(prepared.get(), i));
     // Not within a transaction of ours, as some statements refuse to run in one; the turn is waited for.
-    if (!sqlite3_stmt_readonly(prepared.get())) opened->enter_gate();
-    while (opened->step(prepared.get())) {
-        std::vector<Value>& row = result.rows.emplace_back();
-        for (int i = 0; i < count; ++i)
-            row.push_back(column_value(prepared.get(), i));
-    }
-    result.rows_touched = sqlite3_total_changes(opened->database());
-    return result;
+    if (prepared && sqlite3_stmt_readonly(prepared.get()) == 0) opened->enter_gate();
+    return opened->run(prepared.get());
 }
 
 } // namespace levora::session

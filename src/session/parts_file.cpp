@@ -94,7 +94,8 @@ std::map<std::string, std::string> working_copies(const std::string& folder, con
     for (const auto& each :
          std::filesystem::directory_iterator(std::filesystem::path(folder) / copies_folder, none)) {
         const std::string name = each.path().filename().string();
-        if (name.starts_with(start) && each.is_regular_file(none))
+        // What a kill has left in writing is no copy.
+        if (name.starts_with(start) && !name.ends_with(".writing") && each.is_regular_file(none))
             parts.emplace(copies_folder + "/" + name, read_whole_file(each.path().string()));
     }
     return parts;

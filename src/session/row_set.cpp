@@ -122,13 +122,7 @@ void RowSet::State::start_editing() {
 
 void RowSet::State::insert_row(OpenStore& writing) {
     if (!insertion) {
-        std::string names;
-        std::string places;
-        for (const std::string& each : columns) {
-            names += (names.empty() ? "" : ", ") + as_name(each);
-            places += places.empty() ? "?" : ", ?";
-        }
-        insertion_text = "INSERT INTO " + table + " (" + names + ") VALUES (" + places + ")";
+        insertion_text = insert_statement(table, columns);
         insertion = writing.prepare(insertion_text);
     }
     // A statement that has failed is made ready again; its failure is known already.

@@ -167,6 +167,23 @@ void OpenStore::run(const std::string& text) {
     }
 }
 
+StatementResult OpenStore::run(sqlite3_stmt* statement) {
+    StatementResult result;
+    if (!statement) return result;
+    const int count = sqlite3_column_count(statement);
+    result.is_select = count > 0;
+    for (int i = 0; i < count; ++i)
+        result.columns.emplace_back(sqlite3_column_name(statement, i));
+    const int before = sqlite3_total_changes(database_.get());
+    while (step(statement)) {
+        std::vector<Value>& row = result.rows.emplace_back();
+        for (int i = 0; i < count; ++i)
+            row.push_back(column_value(statement, i));
+    }
+    result.rows_touched = sqlite3_total_changes(database_.get()) - before;
+    return result;
+}
+
 void OpenStore::attach(const std::vector<AttachedStore>& others) {
     for (const AttachedStore& each : others) {
         const std::string file = store_file(each.file);
@@ -268,6 +285,16 @@ void OpenStore::rollback() {
     if (in_transaction()) sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
     gate_.leave();
     detach_all();
+}
+
+std::string insert_statement(const std::string& table, const std::vector<std::string>& columns) {
+    std::string names;
+    std::string places;
+    for (const std::string& each : columns) {
+        names += (names.empty() ? "" : ", ") + as_name(each);
+        places += places.empty() ? "?" : ", ?";
+    }
+    return "INSERT INTO " + table + " (" + names + ") VALUES (" + places + ")";
 }
 
 Value column_value(sqlite3_stmt* statement, int column) {

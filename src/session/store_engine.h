@@ -42,6 +42,8 @@ public:
     bool step(sqlite3_stmt* statement);
     // Runs a statement to its end.
     void run(const std::string& text);
+    // The same, with its rows; a null statement, of blanks only, has none.
+    StatementResult run(sqlite3_stmt* statement);
 
     // Attaches the other files that a statement names; they go when no transaction needs them.
     void attach(const std::vector<AttachedStore>& others);
@@ -97,6 +99,8 @@ private:
     bool lost_in_commit_ = false; // then the transaction had been whole
 };
 
+// "INSERT INTO table (a, b) VALUES (?, ?)"; the table's name as a statement has it.
+std::string insert_statement(const std::string& table, const std::vector<std::string>& columns);
 Value column_value(sqlite3_stmt* statement, int column);
 void bind_value(OpenStore& store, sqlite3_stmt* statement, int place, const Value& value);
 

@@ -44,34 +44,13 @@ WholeFolder::~WholeFolder() {
 StatementResult WholeFolder::run(std::string_view statement) {
     OpenStore& store = state_->store;
     const StatementText translated = translate(statement);
-    const PreparedStatement prepared = store.prepare(translated.in_saved_order());
-    StatementResult result;
-    if (!prepared) return result;
-    const int count = sqlite3_column_count(prepared.get());
-    result.is_select = count > 0;
-    for (int i = 0; i < count; ++i)
-        result.columns.emplace_back(sqlite3_column_name(prepared.get(), i));
-    const int before = sqlite3_total_changes(store.database());
-    while (store.step(prepared.get())) {
-        std::vector<Value>& row = result.rows.emplace_back();
-        for (int i = 0; i < count; ++i)
-            row.push_back(column_value(prepared.get(), i));
-    }
-    result.rows_touched = sqlite3_total_changes(store.database()) - before;
-    return result;
+    return store.run(store.prepare(translated.in_saved_order()).get());
 }
 
 void WholeFolder::insert(std::string_view table, const std::vector<std::string>& columns,
                          const std::vector<Value>& values) {
-    std::string names;
-    std::string places;
-    for (const std::string& each : columns) {
-        names += (names.empty() ? "" : ", ") + as_name(each);
-        places += places.empty() ? "?" : ", ?";
-    }
     OpenStore& store = state_->store;
-    const PreparedStatement statement =
-        store.prepare("INSERT INTO " + as_name(table) + " (" + names + ") VALUES (" + places + ")");
+    const PreparedStatement statement = store.prepare(insert_statement(as_name(table), columns));
     for (std::size_t i = 0; i < values.size(); ++i)
         bind_value(store, statement.get(), static_cast<int>(i) + 1, values[i]);
     store.step(statement.get());
