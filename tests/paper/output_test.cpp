@@ -14,12 +14,12 @@ namespace {
 
 TEST_F(PaperTest, APdfCarriesTitleAuthorEmbeddedFontsAndTextToSelect) {
     Report report = shipped("RepWealthTax");
-    fill_all(report, "Raß & Sons ₹", "5750000");
+    fill_all(report, "Raß & Sons", "5750000");
     const std::string path = pdf(report);
     const std::string information = output_of("pdfinfo " + path);
     EXPECT_NE(information.find("Title:           Statement of Wealth Tax\n"), std::string::npos)
         << information;
-    EXPECT_NE(information.find("Author:          Raß & Sons ₹\n"), std::string::npos) << information;
+    EXPECT_NE(information.find("Author:          Raß & Sons\n"), std::string::npos) << information;
     EXPECT_NE(information.find("(A4)"), std::string::npos) << information;
     EXPECT_NE(output_of("pdftotext " + path + " -").find("Raß & Sons"), std::string::npos);
     const std::string fonts = output_of("pdffonts " + path);
