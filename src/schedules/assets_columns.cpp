@@ -1,6 +1,8 @@
 #include "schedules/assets_screen.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 
 namespace levora::schedules {
 
@@ -18,9 +20,19 @@ void add_item_column(widgets::Grid& spr) {
     spr.set_header(spr.columns(), number_text(spr.columns() - 1));
 }
 
+// Whether a header is those words and that number already. A load renumbers once for each item, so
+// that it matters not to make a text for each of them.
+bool is_numbered(std::string_view header, std::string_view words, int number) {
+    if (!header.starts_with(words)) return false;
+    std::array<char, 12> digits{};
+    const char* end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    return header.substr(words.size()) == std::string_view(digits.data(), end);
+}
+
 void renumber_headers(widgets::Grid& spr, std::string_view words, int last_column) {
     for (int column = 2; column <= std::min(last_column, spr.columns()); ++column)
-        spr.set_header(column, std::string(words) + number_text(column - 1));
+        if (!is_numbered(spr.header(column), words, column - 1))
+            spr.set_header(column, std::string(words) + number_text(column - 1));
 }
 
 constexpr std::string_view property_words;
