@@ -14,6 +14,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLayout>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -109,10 +110,25 @@ private:
     QLabel* widget_;
 };
 
+// The layout, or one inside it, that holds the widget itself.
+QLayout* layout_of(QLayout* layout, const QWidget& widget) {
+    for (int at = 0; layout && at < layout->count(); ++at) {
+        QLayoutItem* item = layout->itemAt(at);
+        if (item->widget() == &widget) return layout;
+        if (QLayout* found = layout_of(item->layout(), widget)) return found;
+    }
+    return nullptr;
+}
+
 class FrameBinding final : public Binding {
 public:
     FrameBinding(widgets::Frame& frame, QWidget* widget)
-        : Binding(frame, widget), frame_(frame), full_width_(widget->maximumWidth()) {}
+        : Binding(frame, widget), frame_(frame), full_width_(widget->maximumWidth()) {
+        // A panel laid over others stands in their middle.
+        if (widget->property("overlay").toBool() && widget->parentWidget())
+            if (QLayout* layout = layout_of(widget->parentWidget()->layout(), *widget))
+                layout->setAlignment(widget, Qt::AlignCenter);
+    }
 
     void slide(Sliding sliding) override {
         if (frame_.width_twips <= 0) return;

@@ -11,6 +11,7 @@
 #include <QSignalBlocker>
 #include <QStandardItemModel>
 #include <QTreeView>
+#include <QTreeWidget>
 
 namespace levora::desktop {
 
@@ -228,6 +229,47 @@ private:
     QTreeView* view_;
 };
 
+// The same list laid open, one row below the other.
+class OpenColumnListBinding final : public Binding {
+public:
+    OpenColumnListBinding(ColumnList& list, QTreeWidget* rows, Acts& acts)
+        : Binding(list, rows), list_(list), rows_(rows) {
+        QObject::connect(rows, &QTreeWidget::currentItemChanged, rows, [this, &acts](QTreeWidgetItem* item) {
+            const int row = rows_->indexOfTopLevelItem(item);
+            if (row >= 0 && acts.act([&] { list_.choose(row); })) show_content();
+        });
+    }
+
+private:
+    void show_items() override {
+        const QSignalBlocker quiet(rows_);
+        rows_->clear();
+        QStringList headers;
+        for (const std::string& header : list_.headers())
+            headers += to_qt(header);
+        rows_->setHeaderLabels(headers);
+        for (int row = 0; row < list_.count(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < list_.columns(); ++column)
+                cells += to_qt(list_.cell(row, column));
+            rows_->addTopLevelItem(new QTreeWidgetItem(cells));
+        }
+        for (int column = 0; column < list_.columns(); ++column) {
+            const auto at = static_cast<std::size_t>(column);
+            rows_->setColumnHidden(column, at < list_.hidden_columns.size() && list_.hidden_columns[at]);
+            rows_->resizeColumnToContents(column);
+        }
+        show_content();
+    }
+    void show_content() override {
+        const QSignalBlocker quiet(rows_);
+        rows_->setCurrentItem(rows_->topLevelItem(list_.index()));
+    }
+
+    ColumnList& list_;
+    QTreeWidget* rows_;
+};
+
 template <class Kind, class Tied, class WidgetKind, class... More>
 std::unique_ptr<Binding> tie(widgets::Control& control, QWidget* widget, More&... more) {
     auto* right = qobject_cast<WidgetKind*>(widget);
@@ -250,6 +292,9 @@ std::unique_ptr<Binding> bind_list(widgets::Control& control, QWidget* widget, A
     return tie<ListField, ListBinding, QComboBox>(control, widget, acts, history);
 }
 std::unique_ptr<Binding> bind_column_list(widgets::Control& control, QWidget* widget, Acts& acts) {
+    if (std::unique_ptr<Binding> open =
+            tie<ColumnList, OpenColumnListBinding, QTreeWidget>(control, widget, acts))
+        return open;
     return tie<ColumnList, ColumnListBinding, QComboBox>(control, widget, acts);
 }
 

@@ -14,6 +14,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QToolTip>
 
@@ -131,11 +132,30 @@ void GridView::size_columns() {
         const double told = grid_->column_width(column);
         const double characters = told > 0 ? told : default_width_characters;
         const int width = static_cast<int>(characters * character) + cell_padding;
-        const QVariant before = header->property(qPrintable(QStringLiteral("told%1").arg(section)));
-        (void)before;
-        if (header->sectionSize(section) != width && !grid_->hidden(column))
-            header->resizeSection(section, width);
+        if (grid_->hidden(column) || told_widths_.value(section) == width) continue;
+        // A width that a person gave by hand stays until the grid tells another.
+        told_widths_[section] = width;
+        header->resizeSection(section, width);
     }
+    size_header(character);
+}
+
+// Long headers take as many lines as they need.
+void GridView::size_header(int character) {
+    QHeaderView* header = horizontalHeader();
+    QFont bold = header->font();
+    bold.setBold(true);
+    const QFontMetrics metrics(bold);
+    int height = row_height;
+    for (int column = 1; column <= grid_->columns(); ++column) {
+        const QString words = to_qt(grid_->header(column));
+        const int room = header->sectionSize(column - 1) - cell_padding;
+        if (grid_->hidden(column) || words.size() * character < room) continue;
+        const QRect needed =
+            metrics.boundingRect(0, 0, std::max(room, 1), 400, Qt::TextWordWrap | Qt::AlignCenter, words);
+        height = std::max(height, needed.height() + 10);
+    }
+    if (header->minimumHeight() != height) header->setFixedHeight(height);
 }
 
 void GridView::select_active() {
@@ -292,11 +312,15 @@ void GridView::type_character(const QString& typed) {
 }
 
 void GridView::start_edit(const QString& first_typed) {
-    if (!grid_ || !currentIndex().isValid()) return;
+    if (!grid_ || !currentIndex().isValid() || state() == EditingState) return;
     first_typed_ = first_typed;
     const QModelIndex index = currentIndex();
     edit(index);
     first_typed_ = QString();
+    // The view selects what an editor opens with; what was typed stays and is typed on.
+    if (!first_typed.isNull())
+        for (QLineEdit* line : viewport()->findChildren<QLineEdit*>(QString(), Qt::FindDirectChildrenOnly))
+            if (line->isVisible() && line->inputMask().isEmpty()) line->end(false);
     if (auto* list = qobject_cast<QComboBox*>(indexWidget(index))) list->showPopup();
     for (QComboBox* list : viewport()->findChildren<QComboBox*>(QString(), Qt::FindDirectChildrenOnly))
         if (list->isVisible() && !list->isEditable()) list->showPopup();

@@ -77,6 +77,7 @@ private:
     void show_note() const;
     void apply_structure();
     void size_columns();
+    void size_header(int character);
     void select_active();
 
     widgets::Grid* grid_ = nullptr;
