@@ -40,7 +40,7 @@ protected:
     }
 };
 
-TEST_F(ReturnReadingTest, WorkingCopyBringsBackAllButTheToldLosses) {
+TEST_F(ReturnReadingTest, WorkingCopyBringsBackAllButItsKnownLosses) {
     type_complete_return(form());
     form().cboReturnType.choose("Original"); // a revised copy has a name that is not looked for
     std::string expected = everything(form());

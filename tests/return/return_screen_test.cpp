@@ -197,7 +197,7 @@ TEST_F(ReturnTest, StonesShowOnTheButtonAndHideOnOk) {
     EXPECT_FALSE(f.frPreciousStone.visible());
 }
 
-TEST_F(ReturnTest, ValidatorIsAskedForByItsToldLine) {
+TEST_F(ReturnTest, ValidatorIsAskedForByItsUnquotedLine) {
     form().mskAY.set_text("2014-2015");
     form().cmdValidatitor.click();
     const auto started = desk_.take_started();
