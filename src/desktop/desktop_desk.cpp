@@ -56,6 +56,15 @@ QMessageBox::ButtonRole role_of(Answer answer) {
     }
 }
 
+// The program and its words. A blank in the program's name need not be quoted: the shortest beginning
+// of the line that is a file is the program.
+QStringList split_command(const QString& line) {
+    for (qsizetype blank = line.indexOf(' '); blank >= 0; blank = line.indexOf(' ', blank + 1))
+        if (const QString name = line.left(blank); QFileInfo(name).isFile())
+            return QStringList(name) + QProcess::splitCommand(line.mid(blank + 1));
+    return QProcess::splitCommand(line);
+}
+
 // "e-Return File (*.xml)|*.xml|All Files|*.*" as a file dialog here takes it.
 QString name_filters(const std::string& filter) {
     const QStringList parts = to_qt(filter).split(QLatin1Char('|'));
@@ -157,7 +166,7 @@ void DesktopDesk::start_program(const std::string& line, widgets::ProgramWindow)
     QStringList words;
     bool started = !program.empty() && QProcess::startDetached(to_qt(program), {});
     if (!started && !is_calculator(line)) {
-        words = QProcess::splitCommand(to_qt(line));
+        words = split_command(to_qt(line));
         const QString name = words.isEmpty() ? QString() : words.takeFirst();
         started = !name.isEmpty() && QProcess::startDetached(name, words);
     }
