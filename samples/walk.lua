@@ -31,7 +31,7 @@ assets.sprUnbuiltArea:type(2, 1, "1000")
 assets.cmdUnbuiltAreaOk:click()
 property:type(2, 28, "500000")
 
--- Land, a car, a share in a firm, jewellery.
+-- Land, a car, a share in a firm, jewellery with a stone.
 assets.SSTabAsset:choose(1)
 assets.sprUrbanLand:type(1, 1, "Plot at Hinjawadi")
 assets.sprUrbanLand:type(11, 1, "2500000")
@@ -44,7 +44,26 @@ assets.SSTabAsset:choose(4)
 assets.cboNumberOfJewellery:type("1")
 assets.sprJewellary:type(2, 1, "Gold necklace")
 assets.sprJewellary:type(2, 7, "640000")
+assets.sprJewellary:press(2, 5)
+assets.sprPreciousStone:type(1, 1, "Ruby")
+assets.sprPreciousStone:type(2, 1, "2.5")
+assets.sprPreciousStone:type(3, 1, "85000")
+assets.btnOK:click()
 assets.cmdOK:click()
+
+-- A shop's car, valued on its own: more than a fifth above the balance sheet.
+frmWealthMain.cmdAssets:click()
+frmImmovable.cmdBusinessAsset:click()
+local business = frmBusinessAssets.sprAssetOfBusiness
+business:choose(1, 1, "Car")
+business:type(2, 1, "300000")
+business:press(6, 1)
+frmImmovable.sprMovableProp:type(2, 1, "420000")
+frmImmovable.cmdOK:click()
+business:choose(1, 2, "Gold")
+business:type(2, 2, "150000")
+frmBusinessAssets.cmdBusinessAssetSave:click()
+frmImmovable.cmdOK:click()
 
 frmWealthMain.cmdDeemedAssets:click()
 frmDeemedAsset.sprDeemedAsset:choose(1, 1, 0)
@@ -52,6 +71,12 @@ frmDeemedAsset.sprDeemedAsset:type(3, 1, "Rohan Joshi")
 frmDeemedAsset.sprDeemedAsset:type(4, 1, "Minor son")
 frmDeemedAsset.sprDeemedAsset:type(6, 1, "400000")
 frmDeemedAsset.cmdDeemedAssetOk:click()
+
+frmWealthMain.cmdExemptedAsset:click()
+frmAssetExempt.sprAssetExempt:choose(1, 1, "One house or a part of house")
+frmAssetExempt.sprAssetExempt:type(2, 1, "1500000")
+frmAssetExempt.sprAssetExempt:type(5, 1, "Section 5(vi)")
+frmAssetExempt.cmdOK:click()
 
 -- Debt, tax paid, one enclosure.
 local sheet = frmWealthMain
@@ -65,7 +90,7 @@ sheet.cmdSave1:click()
 
 local rows = {
     { "Assets [Sec.2(ea)]", sheet.txtAssetsSec2ea }, { "Deemed assets [Sec.4]", sheet.txtDeemedAssets },
-    { "Total", sheet.txtTotalAssets }, { "Debt [Sec.2(m)]", sheet.txtLessDebt },
+    { "Total", sheet.txtTotalAssets }, { "Exempted [Sec.5]", sheet.txtExemptedAssets }, { "Debt [Sec.2(m)]", sheet.txtLessDebt },
     { "Net wealth", sheet.txtNetWealth }, { "Rounded off", sheet.txtNetWealthRoundedOff },
     { "Taxable wealth", sheet.txtTaxableWealth }, { "Tax @ 1%", sheet.txtWealthTaxLiability },
     { "Interest u/s 17(B)", sheet.txtInterest }, { "Tax and interest", sheet.txtTaxIntPayable },
