@@ -76,7 +76,11 @@ void add_report_pages(ScreenWindow& window, DesktopDesk* desk) {
     QObject::connect(&window, &ScreenWindow::came_up, view, [&window, view, desk] {
         if (!window.attached()) return;
         const auto& report = static_cast<const reports::frmRepPreview*>(window.form())->report();
-        if (report) show_in(*view, std::make_shared<const paper::Pages>(*report), desk);
+        try {
+            if (report) show_in(*view, std::make_shared<const paper::Pages>(*report), desk);
+        } catch (const Failure& failure) {
+            if (desk) tell_failure(*desk, failure); // a font is missing: the window stays, empty
+        }
     });
 }
 
