@@ -219,16 +219,29 @@ void find_single_table(StatementText& result, const std::vector<Placed>& all) {
     result.alias = alias;
 }
 
+// Where the statement may end at the earliest: a trigger holds statements of its own before its END.
+std::size_t body_end(const std::vector<Placed>& all) {
+    constexpr std::size_t furthest_word = 2; // CREATE TEMP TRIGGER
+    if (all.empty() || !is(all.front().token, "create")) return 0;
+    for (std::size_t i = 1; i <= furthest_word && i < all.size(); ++i) {
+        if (!is(all[i].token, "trigger")) continue;
+        for (std::size_t last = all.size(); last > i; --last)
+            if (is(all[last - 1].token, "end")) return last;
+    }
+    return 0;
+}
+
 // Between two statements stands a ";": what follows one must be empty. Names come into statements
 // unquoted, so a second statement is never what a screen means.
 void refuse_second_statement(const std::vector<Placed>& all) {
     bool ended = false;
-    for (const Placed& each : all) {
-        if (is_symbol(each.token, ';'))
+    for (std::size_t i = body_end(all); i < all.size(); ++i) {
+        const Token& token = all[i].token;
+        if (is_symbol(token, ';'))
             ended = true;
         else if (ended)
             throw Failure(syntax_error,
-                          "Characters found after end of statement: " + std::string(each.token.text));
+                          "Characters found after end of statement: " + std::string(token.text));
     }
 }
 

@@ -32,6 +32,8 @@ TEST(StatementTextTest, TurnsTheScreensWordsIntoTheEngines) {
          "SELECT a FROM T ORDER BY rowid; -- #1/1/2014#"},
         {"another folder's file", "SELECT a FROM [/d/x]y/Assessee.mdb; PWD=p].AssesseeInfo where a=1 ",
          "SELECT a FROM other_store_1.AssesseeInfo where a=1 ORDER BY rowid "},
+        {"a trigger's own statements belong to it", "CREATE TRIGGER t INSERT ON T BEGIN SELECT 1; END;",
+         "CREATE TRIGGER t INSERT ON T BEGIN SELECT 1; END;"},
     };
     for (const Case& each : cases) {
         SCOPED_TRACE(each.why);
@@ -46,6 +48,9 @@ TEST(StatementTextTest, TurnsTheScreensWordsIntoTheEngines) {
 TEST(StatementTextTest, RefusesASecondStatementAndADateThatIsNone) {
     EXPECT_EQ(testing::failure_of([] { translate("DELETE FROM T; DELETE FROM U"); }),
               "1 Characters found after end of statement: DELETE");
+    EXPECT_EQ(testing::failure_of(
+                  [] { translate("CREATE TRIGGER t INSERT ON T BEGIN SELECT 1; END; DROP TABLE U"); }),
+              "1 Characters found after end of statement: DROP");
     EXPECT_EQ(testing::failure_of([] { translate("SELECT a FROM T WHERE d = #02/30/2014#"); }),
               "1 Syntax error in date in statement: #02/30/2014#");
 }
