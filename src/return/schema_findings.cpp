@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <array>
 #include <optional>
-#include <set>
 #include <string_view>
 
 namespace levora::form_ba {

@@ -143,6 +143,27 @@ TEST_F(ReturnWritingTest, WantedMovableRowsByTheirDescription) {
               "<FBAMain:DebtOwnedMovableProp>0</FBAMain:DebtOwnedMovableProp>\n");
 }
 
+TEST_F(ReturnWritingTest, WantedSecondNamesOfStatesHaveNoCode) {
+    auto& grid = form().sprScheduleOPR;
+    ASSERT_TRUE(grid.choose(opr_column::head, 1, "AgriculturalLand"));
+    ASSERT_TRUE(grid.choose(opr_column::state, 1, "Odisha ")); // with its blank
+    ASSERT_TRUE(grid.choose(opr_column::head, 2, "AgriculturalLand"));
+    ASSERT_TRUE(grid.choose(opr_column::state, 2, "Orissa"));
+    EXPECT_EQ(lines_with(generated(), "ImmovState"),
+              "<FBAMain:ImmovState>99</FBAMain:ImmovState>\n<FBAMain:ImmovState>24</FBAMain:ImmovState>\n");
+}
+
+TEST_F(ReturnWritingTest, StonesGoWithTheirItemOrNotAtAll) {
+    frmFormBA& f = form();
+    f.sprJewellery.type(jewellery_column::description, 1, "Ring");
+    f.sprPreciousStone.type(stone_column::item, 1, "2"); // there is no second item
+    f.sprPreciousStone.type(stone_column::description, 2, "Opal");
+    EXPECT_EQ(lines_with(generated(), "SchJewelStones"), "");
+    f.sprPreciousStone.type(stone_column::item, 2, "1");
+    EXPECT_EQ(lines_with(generated(), "PreciousStoneDescription"),
+              "<FBAMain:PreciousStoneDescription>Opal</FBAMain:PreciousStoneDescription>\n");
+}
+
 TEST_F(ReturnWritingTest, OtherPersonsNeedATotalAboveNought) {
     frmFormBA& f = form();
     f.sprInducibleNetWealth.type(other_person_column::name, 1, "Minor");
