@@ -19,6 +19,7 @@ constexpr double padding = 0.8;
 constexpr double line_padding = 0.7; // above and below the text of a row
 constexpr double widest_column = 60; // a longer text wraps
 constexpr double footer_room = 8;
+constexpr double below_header = 2;
 const FontKey cell_font{.size = 8};
 const FontKey header_font{.size = 8, .bold = true};
 
@@ -108,7 +109,10 @@ private:
     void start_page(const std::vector<SheetColumn>& group) {
         pages_.emplace_back();
         y_ = top_;
-        if (pages_.size() == 1 || &group != last_group_) place_lines(header_, y_);
+        if (pages_.size() == 1 || &group != last_group_) {
+            place_lines(header_, y_);
+            if (!header_.empty()) y_ += below_header;
+        }
         last_group_ = &group;
         double bottom = size_.height() - bottom_margin_ - footer_room;
         place_lines(footer_, bottom);
