@@ -32,14 +32,14 @@ CellDesign amount() {
 
 // clang-format off
 constexpr std::array<ScheduleField, 8> fields{{
-    {"Name(s) of Firm / AOP",           any_text, FieldGround::plain, FieldStore::text, "NameAddressofFirm", 26},
-    {"Firm / AOP Address",              any_text, FieldGround::plain, FieldStore::text, "AddressofFirm", 26},
-    {"PAN of Firm/AOP",                 pan,      FieldGround::plain, FieldStore::text, "PANOfFirm", 14},
-    {"Name of other partners / members", any_text, FieldGround::plain, FieldStore::text, "NameOfPartner", 26},
-    {"Assessees Profit Sharing Ratio",  ratio,    FieldGround::plain, FieldStore::amount, "ProfitSharingRatio", 12},
-    {"Value of the Assessee's Interest in the Assets of Firm / AOP as per Schedule-III", amount, FieldGround::plain, FieldStore::amount, "ValueOfInterest", 18},
-    {"Debts owed in relation to such Interest", amount, FieldGround::plain, FieldStore::amount, "DebtOwed", 18},
-    {"Net Amount  [ (d) - (e) ]",       amount,   FieldGround::locked, FieldStore::amount, "NetAmount", 18},
+    {"Name(s) of Firm / AOP",           any_text, Ground::plain, FieldStore::text, "NameAddressofFirm", 26},
+    {"Firm / AOP Address",              any_text, Ground::plain, FieldStore::text, "AddressofFirm", 26},
+    {"PAN of Firm/AOP",                 pan,      Ground::plain, FieldStore::text, "PANOfFirm", 14},
+    {"Name of other partners / members", any_text, Ground::plain, FieldStore::text, "NameOfPartner", 26},
+    {"Assessees Profit Sharing Ratio",  ratio,    Ground::plain, FieldStore::amount, "ProfitSharingRatio", 12},
+    {"Value of the Assessee's Interest in the Assets of Firm / AOP as per Schedule-III", amount, Ground::plain, FieldStore::amount, "ValueOfInterest", 18},
+    {"Debts owed in relation to such Interest", amount, Ground::plain, FieldStore::amount, "DebtOwed", 18},
+    {"Net Amount  [ (d) - (e) ]",       amount,   Ground::locked, FieldStore::amount, "NetAmount", 18},
 }};
 // clang-format on
 

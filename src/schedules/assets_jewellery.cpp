@@ -46,18 +46,18 @@ CellDesign report_date() {
 // are stored as they stand.
 // clang-format off
 constexpr std::array<ScheduleField, jewellery_rows> fields{{
-    {"Description of item",               description,   FieldGround::plain, FieldStore::text, "ItemDesc"},
-    {"Unit",                              unit_list,     FieldGround::plain, FieldStore::text, "Unit"},
-    {"Gross Weight",                      weight,        FieldGround::plain, FieldStore::amount, "GrossWeight"},
-    {"Net Weight of Precious Metal",      weight,        FieldGround::plain, FieldStore::amount, "NetWeight"},
-    {"Description and Weight of Precious or Semi-Precious Stones", details, FieldGround::plain, FieldStore::text, "DescAndWeiOfPreAndSemiPreStones"},
-    {"Value of each precious or semi precious stone total value of all such stones", amount, FieldGround::plain, FieldStore::text, "ValOfPreAndSemiPreStones"},
-    {"Total value of jewellery as per Schedule III", amount, FieldGround::plain, FieldStore::amount, "TotalValOfJewellery"},
-    {"Debt owed in relation to the jewellery", amount,   FieldGround::plain, FieldStore::amount, "DebtOwned"},
-    {"Net amount (6-7)",                  amount,        FieldGround::grey,  FieldStore::text, "NetAmt"},
-    {"Name of Registered Valuer",         valuer_name,   FieldGround::plain, FieldStore::text, "NameRegValuer"},
-    {"Registration Number of Valuer",     valuer_number, FieldGround::plain, FieldStore::text, "RegNoValuer"},
-    {"Date of Report by Valuer",          report_date,   FieldGround::plain, FieldStore::text, "DateofReportByValuer"},
+    {"Description of item",               description,   Ground::plain, FieldStore::text, "ItemDesc"},
+    {"Unit",                              unit_list,     Ground::plain, FieldStore::text, "Unit"},
+    {"Gross Weight",                      weight,        Ground::plain, FieldStore::amount, "GrossWeight"},
+    {"Net Weight of Precious Metal",      weight,        Ground::plain, FieldStore::amount, "NetWeight"},
+    {"Description and Weight of Precious or Semi-Precious Stones", details, Ground::plain, FieldStore::text, "DescAndWeiOfPreAndSemiPreStones"},
+    {"Value of each precious or semi precious stone total value of all such stones", amount, Ground::plain, FieldStore::text, "ValOfPreAndSemiPreStones"},
+    {"Total value of jewellery as per Schedule III", amount, Ground::plain, FieldStore::amount, "TotalValOfJewellery"},
+    {"Debt owed in relation to the jewellery", amount,   Ground::plain, FieldStore::amount, "DebtOwned"},
+    {"Net amount (6-7)",                  amount,        Ground::grey,  FieldStore::text, "NetAmt"},
+    {"Name of Registered Valuer",         valuer_name,   Ground::plain, FieldStore::text, "NameRegValuer"},
+    {"Registration Number of Valuer",     valuer_number, Ground::plain, FieldStore::text, "RegNoValuer"},
+    {"Date of Report by Valuer",          report_date,   Ground::plain, FieldStore::text, "DateofReportByValuer"},
 }};
 // clang-format on
 
@@ -95,7 +95,7 @@ void JewellerySchedule::design() {
     for (int row = 1; row <= jewellery_rows; ++row) {
         sprJewellary.set_label(label_column, row, std::string(field_of(row).header));
         sprJewellary.design_row(row, field_of(row).design(), first_jewellery_column);
-        if (field_of(row).ground == FieldGround::grey)
+        if (field_of(row).ground == Ground::grey)
             sprJewellary.set_cell_backcolor(first_jewellery_column, row, widgets::grey_rgb);
     }
 }

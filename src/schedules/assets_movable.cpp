@@ -27,10 +27,10 @@ CellDesign total_amount() {
 
 // clang-format off
 constexpr std::array<ScheduleField, 4> fields{{
-    {"Property Detail", label,  FieldGround::grey_and_locked, FieldStore::text, "MovableDesc", 34},
-    {"Amount",          amount, FieldGround::plain,           FieldStore::amount, "MovableValue", 18},
-    {"Debts Owed in Relation to the Asset", amount, FieldGround::plain, FieldStore::amount, "DebtOwed", 18},
-    {"Net Amount",      amount, FieldGround::grey_and_locked, FieldStore::amount, "NetAmount", 18},
+    {"Property Detail", label,  Ground::grey_and_locked, FieldStore::text, "MovableDesc", 34},
+    {"Amount",          amount, Ground::plain,           FieldStore::amount, "MovableValue", 18},
+    {"Debts Owed in Relation to the Asset", amount, Ground::plain, FieldStore::amount, "DebtOwed", 18},
+    {"Net Amount",      amount, Ground::grey_and_locked, FieldStore::amount, "NetAmount", 18},
 }};
 // clang-format on
 

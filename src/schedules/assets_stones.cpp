@@ -26,9 +26,9 @@ CellDesign value() {
 
 // clang-format off
 constexpr std::array<ScheduleField, 3> fields{{
-    {"Description of precious or semi-precious stones", description, FieldGround::plain, FieldStore::text, "Description", 48},
-    {"Weight of precious or semi-precious stones",      weight,      FieldGround::plain, FieldStore::amount, "Weight", 20},
-    {"Value of precious or semi-precious stone",        value,       FieldGround::plain, FieldStore::amount, "ValueOfStones", 20},
+    {"Description of precious or semi-precious stones", description, Ground::plain, FieldStore::text, "Description", 48},
+    {"Weight of precious or semi-precious stones",      weight,      Ground::plain, FieldStore::amount, "Weight", 20},
+    {"Value of precious or semi-precious stone",        value,       Ground::plain, FieldStore::amount, "ValueOfStones", 20},
 }};
 // clang-format on
 

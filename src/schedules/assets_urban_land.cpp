@@ -43,22 +43,22 @@ CellDesign report_date() {
 
 // clang-format off
 constexpr std::array<ScheduleField, 16> fields{{
-    {"Urban Land (Description)", fifty_characters, FieldGround::plain, FieldStore::text, "UrbanLandDescription", 28},
-    {"Flat / Door / Block",      fifty_characters, FieldGround::plain, FieldStore::text, "Flat", 18},
-    {"Name of Premises",         any_text,     FieldGround::plain, FieldStore::text, "Premises", 20},
-    {"Road / Street / Post Office", any_text,  FieldGround::plain, FieldStore::text, "Road", 24},
-    {"Area / Locality",          any_text,     FieldGround::plain, FieldStore::text, "Area", 20},
-    {"Town / City / District",   city_list,    FieldGround::plain, FieldStore::text, "City", 20},
-    {"State",                    state_list,   FieldGround::plain, FieldStore::text, "State", 24},
-    {"Country",                  country_list, FieldGround::plain, FieldStore::text, "Country", 10},
-    {"Pin Code",                 pincode,      FieldGround::plain, FieldStore::text, "pincode", 10},
-    {"Survey / Plot No.",        any_text,     FieldGround::plain, FieldStore::text, "survey", 16},
-    {"Valuation (Rs.)",          amount,       FieldGround::plain, FieldStore::amount, "ValueOfUrbanLand", 16},
-    {"Debts owed",               amount,       FieldGround::plain, FieldStore::amount, "DebtOwed", 16},
-    {"Net Amount",               amount,       FieldGround::grey_and_locked, FieldStore::amount, "NetAmount", 16},
-    {"Name of Registered Valuer", any_text,    FieldGround::plain, FieldStore::text, "NameRegValuer", 24},
-    {"Registration No. of Valuer", any_text,   FieldGround::plain, FieldStore::text, "RegNoValuer", 22},
-    {"Date of Report by Valuer", report_date,  FieldGround::plain, FieldStore::text, "DateofReportByValuer", 18},
+    {"Urban Land (Description)", fifty_characters, Ground::plain, FieldStore::text, "UrbanLandDescription", 28},
+    {"Flat / Door / Block",      fifty_characters, Ground::plain, FieldStore::text, "Flat", 18},
+    {"Name of Premises",         any_text,     Ground::plain, FieldStore::text, "Premises", 20},
+    {"Road / Street / Post Office", any_text,  Ground::plain, FieldStore::text, "Road", 24},
+    {"Area / Locality",          any_text,     Ground::plain, FieldStore::text, "Area", 20},
+    {"Town / City / District",   city_list,    Ground::plain, FieldStore::text, "City", 20},
+    {"State",                    state_list,   Ground::plain, FieldStore::text, "State", 24},
+    {"Country",                  country_list, Ground::plain, FieldStore::text, "Country", 10},
+    {"Pin Code",                 pincode,      Ground::plain, FieldStore::text, "pincode", 10},
+    {"Survey / Plot No.",        any_text,     Ground::plain, FieldStore::text, "survey", 16},
+    {"Valuation (Rs.)",          amount,       Ground::plain, FieldStore::amount, "ValueOfUrbanLand", 16},
+    {"Debts owed",               amount,       Ground::plain, FieldStore::amount, "DebtOwed", 16},
+    {"Net Amount",               amount,       Ground::grey_and_locked, FieldStore::amount, "NetAmount", 16},
+    {"Name of Registered Valuer", any_text,    Ground::plain, FieldStore::text, "NameRegValuer", 24},
+    {"Registration No. of Valuer", any_text,   Ground::plain, FieldStore::text, "RegNoValuer", 22},
+    {"Date of Report by Valuer", report_date,  Ground::plain, FieldStore::text, "DateofReportByValuer", 18},
 }};
 // clang-format on
 

@@ -35,13 +35,13 @@ CellDesign details() {
 
 // clang-format off
 constexpr std::array<ScheduleField, 7> fields{{
-    {"Assets",               asset_list, FieldGround::plain, FieldStore::text, "AssetName", 28},
-    {"Balance sheet Amount", amount,     FieldGround::plain, FieldStore::amount, "BalanceSheetAmount", 18},
-    {"20% of (2)",           amount,     FieldGround::grey_and_locked, FieldStore::nothing, "", 14},
-    {"(2) + (3)",            amount,     FieldGround::grey_and_locked, FieldStore::nothing, "", 16},
-    {"Individual Asset Value as per Schedule III", amount, FieldGround::plain, FieldStore::amount, "IndividualAssetValuaton", 18},
-    {"Details",              details,    FieldGround::plain, FieldStore::nothing, "", 10},
-    {"Value to be taken for Wealth Tax purpose", amount, FieldGround::grey_and_locked, FieldStore::amount, "ValueTobeTaken", 18},
+    {"Assets",               asset_list, Ground::plain, FieldStore::text, "AssetName", 28},
+    {"Balance sheet Amount", amount,     Ground::plain, FieldStore::amount, "BalanceSheetAmount", 18},
+    {"20% of (2)",           amount,     Ground::grey_and_locked, FieldStore::nothing, "", 14},
+    {"(2) + (3)",            amount,     Ground::grey_and_locked, FieldStore::nothing, "", 16},
+    {"Individual Asset Value as per Schedule III", amount, Ground::plain, FieldStore::amount, "IndividualAssetValuaton", 18},
+    {"Details",              details,    Ground::plain, FieldStore::nothing, "", 10},
+    {"Value to be taken for Wealth Tax purpose", amount, Ground::grey_and_locked, FieldStore::amount, "ValueTobeTaken", 18},
 }};
 // clang-format on
 

@@ -70,15 +70,15 @@ CellDesign plain() {
 
 // clang-format off
 constexpr std::array<ScheduleField, 9> fields{{
-    {"Deemed Asset Details",     deemed_asset_list, FieldGround::plain, FieldStore::text, "DeemedAssetDetails", 46},
-    {"Type of Asset",            type_list,         FieldGround::plain, FieldStore::text, "TypeOfAsset", 26},
-    {"Name of the other person", fifty_characters,  FieldGround::plain, FieldStore::text, "NameofOtherPerson", 24},
-    {"Relationship",             fifty_characters,  FieldGround::plain, FieldStore::text, "Relationship", 14},
-    {"PAN of other person",      pan,               FieldGround::plain, FieldStore::text, "PANOther", 18},
-    {"Amount",                   amount,            FieldGround::plain, FieldStore::amount, "DeemedAssetValue", 16},
-    {"Details",                  details,           FieldGround::plain, FieldStore::nothing, "", 10},
-    {"Debt Owed",                debt,              FieldGround::plain, FieldStore::amount, "DebtOwed", 16},
-    {"Net Amount",               debt,              FieldGround::grey_and_locked, FieldStore::amount, "NetAmount", 16},
+    {"Deemed Asset Details",     deemed_asset_list, Ground::plain, FieldStore::text, "DeemedAssetDetails", 46},
+    {"Type of Asset",            type_list,         Ground::plain, FieldStore::text, "TypeOfAsset", 26},
+    {"Name of the other person", fifty_characters,  Ground::plain, FieldStore::text, "NameofOtherPerson", 24},
+    {"Relationship",             fifty_characters,  Ground::plain, FieldStore::text, "Relationship", 14},
+    {"PAN of other person",      pan,               Ground::plain, FieldStore::text, "PANOther", 18},
+    {"Amount",                   amount,            Ground::plain, FieldStore::amount, "DeemedAssetValue", 16},
+    {"Details",                  details,           Ground::plain, FieldStore::nothing, "", 10},
+    {"Debt Owed",                debt,              Ground::plain, FieldStore::amount, "DebtOwed", 16},
+    {"Net Amount",               debt,              Ground::grey_and_locked, FieldStore::amount, "NetAmount", 16},
 }};
 // clang-format on
 

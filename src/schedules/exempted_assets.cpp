@@ -35,11 +35,11 @@ CellDesign fifty_characters() {
 
 // clang-format off
 constexpr std::array<ScheduleField, 5> fields{{
-    {"Asset Under Exemption", asset_list, FieldGround::grey, FieldStore::text, "ExemptedAssetDesc", 38},
-    {"Amount",                amount,     FieldGround::plain, FieldStore::amount, "ExemptedAmount", 16},
-    {"Debt owed in relation to the Asset", amount, FieldGround::plain, FieldStore::amount, "DebtOwed", 18},
-    {"Net Amount",            amount,     FieldGround::grey_and_locked, FieldStore::amount, "NetAmount", 16},
-    {"Reasons for the claim", fifty_characters, FieldGround::plain, FieldStore::text, "ResonsForClaim", 34},
+    {"Asset Under Exemption", asset_list, Ground::grey, FieldStore::text, "ExemptedAssetDesc", 38},
+    {"Amount",                amount,     Ground::plain, FieldStore::amount, "ExemptedAmount", 16},
+    {"Debt owed in relation to the Asset", amount, Ground::plain, FieldStore::amount, "DebtOwed", 18},
+    {"Net Amount",            amount,     Ground::grey_and_locked, FieldStore::amount, "NetAmount", 16},
+    {"Reasons for the claim", fifty_characters, Ground::plain, FieldStore::text, "ResonsForClaim", 34},
 }};
 // clang-format on
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "schedules/schedule_field.h"
 #include "widgets/grid.h"
 
 #include <array>
@@ -70,8 +71,6 @@ struct PropertyBounds {
     double min;
     double max;
 };
-
-enum class Ground { plain, grey, grey_and_locked };
 
 // One row of sprImmovable: what it is, how it is stored, and what an edit of it sets off.
 struct PropertyItem {

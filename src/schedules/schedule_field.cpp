@@ -9,10 +9,10 @@ void design_columns(widgets::Grid& grid, ScheduleFields fields) {
         grid.set_header(column, std::string(field.header));
         grid.design_column(column, field.design());
         grid.set_column_width(column, field.width);
-        const bool grey = field.ground == FieldGround::grey || field.ground == FieldGround::grey_and_locked;
+        const bool grey = field.ground == Ground::grey || field.ground == Ground::grey_and_locked;
         if (grey) grid.set_column_backcolor(column, widgets::grey_rgb);
-        grid.set_column_locked(column, field.ground == FieldGround::locked ||
-                                           field.ground == FieldGround::grey_and_locked);
+        grid.set_column_locked(column,
+                               field.ground == Ground::locked || field.ground == Ground::grey_and_locked);
         ++column;
     }
 }

@@ -12,7 +12,7 @@
 
 namespace levora::schedules {
 
-enum class FieldGround { plain, locked, grey, grey_and_locked };
+enum class Ground { plain, locked, grey, grey_and_locked };
 
 enum class FieldStore {
     nothing, // comes back by recomputation, or is a button
@@ -24,7 +24,7 @@ enum class FieldStore {
 struct ScheduleField {
     std::string_view header;
     widgets::CellDesign (*design)();
-    FieldGround ground;
+    Ground ground;
     FieldStore store;
     std::string_view stored_as;
     double width = 12; // in characters
