@@ -50,6 +50,7 @@ void copy_rows_in(OpenStore& from, WholeFolder& to, const TableRule& table) {
     }
     while (from.step(select.get())) {
         std::vector<Value> values;
+        values.reserve(wanted.size());
         for (const int each : wanted)
             values.push_back(column_value(select.get(), each));
         to.insert(table.name, columns, values);
