@@ -196,16 +196,17 @@ void Grid::delete_rows(int row, int count) {
 
 void Grid::delete_column(int column) {
     (void)at(column, 1);
-    const std::size_t place = static_cast<std::size_t>(column - 1);
-    storage_->columns.erase(storage_->columns.begin() + (column - 1));
+    // The empty column at the end has the design of the last, also where that is the one deleted.
     Storage::Column fresh = storage_->columns.back();
     fresh.header.clear();
     fresh.data_count = 0;
+    storage_->columns.erase(storage_->columns.begin() + (column - 1));
     storage_->columns.push_back(std::move(fresh));
     for (Row& row : storage_->rows) {
-        if (row.cells[place].data) --row.data_count;
-        row.cells.erase(row.cells.begin() + (column - 1));
         Cell cell = Storage::blank_like(row.cells.back());
+        const auto deleted = row.cells.begin() + (column - 1);
+        if (deleted->data) --row.data_count;
+        row.cells.erase(deleted);
         row.cells.push_back(std::move(cell));
     }
     recompute_all();

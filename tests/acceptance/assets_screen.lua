@@ -64,6 +64,16 @@ same(headers(grid) .. " " .. grid:text(3, 2), "1 2 third")
 screen.mnuAddColumn:click()
 same(headers(grid), "1 2", "as many columns as the count asks for")
 
+-- The only item of jewellery goes and a new one can be entered in its place.
+local items = screen.sprJewellary
+screen.cboNumberOfJewellery:type("1")
+items:type(2, 1, "Ring")
+items:rightclick()
+screen.mnuDeleteColumn:click()
+screen.cboNumberOfJewellery:type("1")
+same(items:text(2, 1) .. items:text(2, 2) .. tostring(items:type(2, 1, "Chain")), "Milligramstrue")
+items:type(2, 1, "")
+
 -- A sheet of the land with its total row under the preview.
 local land = screen.sprUrbanLand
 local rows = land.rows
