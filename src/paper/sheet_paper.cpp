@@ -83,9 +83,23 @@ private:
         return std::min(widest_column, width + 2 * padding + 0.2);
     }
 
+    // Computed amounts are no data, but a net amount in the last columns belongs on the paper.
+    [[nodiscard]] int last_shown_column() const {
+        int last = grid_.columns();
+        if (rows_ == 0) return last;
+        const auto shows_nothing = [this](int column) {
+            for (int row = 1; row <= rows_; ++row)
+                if (!grid_.text(column, row).empty()) return false;
+            return true;
+        };
+        while (last > grid_.data_columns() && shows_nothing(last))
+            --last;
+        return last;
+    }
+
     std::vector<SheetColumn> measured_columns() {
         std::vector<SheetColumn> columns{{.column = 0, .width = measured_width(0)}};
-        const int last = grid_.data_columns() > 0 ? grid_.data_columns() : grid_.columns();
+        const int last = last_shown_column();
         for (int column = 1; column <= last; ++column)
             if (!grid_.hidden(column)) columns.push_back({.column = column, .width = measured_width(column)});
         return columns;

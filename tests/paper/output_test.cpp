@@ -144,11 +144,12 @@ protected:
 TEST_F(SheetPaperTest, ASheetHasItsHeaderItsDataAndItsFooter) {
     grid().set_text(1, 1, "Plot at Hinjawadi");
     grid().set_text(2, 2, "1234567.5");
+    grid().set_column_formula(3, {2, 4}, widgets::difference_formula); // no data, but shown
     grid().print_header = "/n Assessee Name : Asha/n";
     grid().print_footer = "/fz\"9\"/fb1/rTotal: 5200";
     const std::string shown = text();
-    for (const char* words :
-         {"Assessee Name : Asha", "Name", "Amount", "Plot at Hinjawadi", "12,34,567.5", "Total: 5200"})
+    for (const char* words : {"Assessee Name : Asha", "Name", "Amount", "Plot at Hinjawadi", "12,34,567.5",
+                              " 1234567.5", "Total: 5200"})
         EXPECT_NE(shown.find(words), std::string::npos) << words << "\n" << shown;
     EXPECT_EQ(shown.find("/fz"), std::string::npos);
 }
