@@ -71,6 +71,19 @@ sheet.cmdSave1:click()
 same(messages()[1].text:find("3704", 1, true) ~= nil, true)
 same(#store("LVWTax", "SELECT * FROM Enclosure"), 1)
 
+-- A save that a row breaks off leaves the rows as far as they went.
+for row = 1, 4 do sheet.sprSATax:type(6, row, tostring(10 + row)) end
+store("LVWTax", "CREATE TRIGGER no_13 BEFORE INSERT ON PrePaidTaxes WHEN NEW.Amount = 13"
+    .. " BEGIN SELECT RAISE(ABORT, 'no thirteen'); END")
+messages()
+sheet.sprEnclosure:type(1, 2, "")
+sheet.cmdSave1:click()
+same(boxes():find("no thirteen", 1, true) ~= nil, true)
+same(#store("LVWTax", "SELECT * FROM PrePaidTaxes WHERE Amount IN (11, 12)"), 2)
+same(#store("LVWTax", "SELECT * FROM PrePaidTaxes"), 2)
+store("LVWTax", "DROP TRIGGER no_13")
+for row = 1, 4 do sheet.sprSATax:type(6, row, row == 3 and "1500" or "") end
+
 -- Keys of the grids.
 local enclosure = sheet.sprEnclosure
 enclosure:go(2, 5)
