@@ -129,6 +129,92 @@ QString with_page_numbers(QString text, const PageNumber& number) {
         .replace(QLatin1String("{page}"), QString::number(number.page));
 }
 
+// One block in the making.
+class BlockMaker {
+public:
+    BlockMaker(Fonts& fonts, const document::Report& report, const document::Block& block,
+               const GrowthLimit& limit, const PageNumber& number)
+        : fonts_(fonts), report_(report), block_(block), number_(number), edges_(block) {
+        for (const Element& element : block.elements)
+            if (grows(element) && !is_suppressed(report, element)) grow_row_of(element, limit);
+    }
+
+    Piece make() {
+        Piece piece;
+        piece.height = edges_.moved(block_.height);
+        for (const Element& element : block_.elements)
+            if (!is_suppressed(report_, element)) draw(element, piece.marks);
+        return piece;
+    }
+
+private:
+    void grow_row_of(const Element& element, const GrowthLimit& limit) {
+        Grown text = grow(fonts_, element, text_of(report_, element), limit);
+        if (text.lines.size() < 2) return;
+        edges_.grow_row(element.box.bottom, static_cast<double>(text.lines.size() - 1) * text.line_height);
+        grown_.emplace(&element, std::move(text));
+    }
+
+    // Frames and rules stretch with a row that grows; words keep their height at its top.
+    [[nodiscard]] QRectF area_of(const Element& element) const {
+        const bool stretches =
+            element.kind == ElementKind::frame || element.kind == ElementKind::rule || element.look.turned;
+        const double top = edges_.moved(element.box.top);
+        const double bottom = stretches ? edges_.moved(element.box.bottom) : top + element.box.height();
+        return {QPointF(element.box.left, top), QPointF(element.box.right, bottom)};
+    }
+
+    void draw(const Element& element, Marks& marks) {
+        const QRectF area = area_of(element);
+        switch (element.kind) {
+        case ElementKind::frame:
+            if (element.filled) marks.emplace_back(FillMark{.area = area, .black = false});
+            if (element.line.style != document::LineStyle::none)
+                marks.emplace_back(RectangleMark{.area = area, .width = element.line.width});
+            break;
+        case ElementKind::rule:
+            draw_rule(area, element.line, marks);
+            break;
+        case ElementKind::text:
+            place_text(fonts_, area, element.look, with_page_numbers(text_of(report_, element), number_),
+                       marks);
+            break;
+        case ElementKind::object:
+            draw_object(element, area, marks);
+            break;
+        case ElementKind::tick:
+            draw_tick(fonts_, area, element, text_of(report_, element), marks);
+            break;
+        case ElementKind::digits:
+            draw_digits(fonts_, area, element, text_of(report_, element), marks);
+            break;
+        case ElementKind::bar_code:
+            place_bar_code(area, report_.text(element.name), marks);
+            break;
+        }
+    }
+
+    void draw_object(const Element& element, const QRectF& area, Marks& marks) {
+        const auto found = grown_.find(&element);
+        if (found == grown_.end())
+            return place_text(fonts_, area, element.look, text_of(report_, element), marks);
+        const Grown& text = found->second;
+        QRectF line(area.left(), area.top() + (area.height() - text.line_height) / 2, area.width(),
+                    text.line_height);
+        for (const QString& words : text.lines) {
+            place_line(fonts_, line, text.font, element.look.align, words, marks);
+            line.translate(0, text.line_height);
+        }
+    }
+
+    Fonts& fonts_;
+    const document::Report& report_;
+    const document::Block& block_;
+    const PageNumber& number_;
+    Edges edges_;
+    std::map<const Element*, Grown> grown_;
+};
+
 } // namespace
 
 double SectionPieces::height() const {
@@ -151,69 +237,7 @@ bool tighten(GrowthLimit& limit) {
 
 Piece make_block(Fonts& fonts, const document::Report& report, const document::Block& block,
                  const GrowthLimit& limit, const PageNumber& number) {
-    Edges edges(block);
-    std::map<const Element*, Grown> grown;
-    for (const Element& element : block.elements) {
-        if (!grows(element) || is_suppressed(report, element)) continue;
-        Grown lines = grow(fonts, element, text_of(report, element), limit);
-        const double more = static_cast<double>(lines.lines.size() - 1) * lines.line_height;
-        if (more > 0) {
-            edges.grow_row(element.box.bottom, more);
-            grown.emplace(&element, std::move(lines));
-        }
-    }
-
-    Piece piece;
-    piece.height = edges.moved(block.height);
-    for (const Element& element : block.elements) {
-        if (is_suppressed(report, element)) continue;
-        const Box& box = element.box;
-        const double top = edges.moved(box.top);
-        const bool stretches =
-            element.kind == ElementKind::frame || element.kind == ElementKind::rule || element.look.turned;
-        // Words keep their height at the top of a row that grows.
-        const double bottom = stretches ? edges.moved(box.bottom) : top + box.height();
-        const QRectF area(QPointF(box.left, top), QPointF(box.right, bottom));
-        switch (element.kind) {
-        case ElementKind::frame:
-            if (element.filled) piece.marks.emplace_back(FillMark{.area = area, .black = false});
-            if (element.line.style != document::LineStyle::none)
-                piece.marks.emplace_back(RectangleMark{.area = area, .width = element.line.width});
-            break;
-        case ElementKind::rule:
-            draw_rule(area, element.line, piece.marks);
-            break;
-        case ElementKind::text:
-            place_text(fonts, area, element.look, with_page_numbers(text_of(report, element), number),
-                       piece.marks);
-            break;
-        case ElementKind::object: {
-            const auto lines = grown.find(&element);
-            if (lines == grown.end()) {
-                place_text(fonts, area, element.look, text_of(report, element), piece.marks);
-                break;
-            }
-            const double height = fonts.line_height(lines->second.font);
-            double line_top = top + (box.height() - height) / 2;
-            for (const QString& line : lines->second.lines) {
-                place_line(fonts, {box.left, line_top, box.width(), height}, lines->second.font,
-                           element.look.align, line, piece.marks);
-                line_top += lines->second.line_height;
-            }
-            break;
-        }
-        case ElementKind::tick:
-            draw_tick(fonts, area, element, text_of(report, element), piece.marks);
-            break;
-        case ElementKind::digits:
-            draw_digits(fonts, area, element, text_of(report, element), piece.marks);
-            break;
-        case ElementKind::bar_code:
-            place_bar_code(area, report.text(element.name), piece.marks);
-            break;
-        }
-    }
-    return piece;
+    return BlockMaker(fonts, report, block, limit, number).make();
 }
 
 } // namespace levora::paper
