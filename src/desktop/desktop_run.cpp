@@ -1,6 +1,8 @@
 #include "desktop/desktop_run.h"
 
+#include "desktop/kept_edits.h"
 #include "desktop/paper_windows.h"
+#include "desktop/qt_text.h"
 #include "desktop/screen_window.h"
 #include "desktop/sheet_extras.h"
 #include "paper/sheet_paper.h"
@@ -51,6 +53,13 @@ void DesktopRun::tie_paper() {
 void DesktopRun::window_made(ScreenWindow* window) {
     const std::string& screen = window->form()->name();
     if (screen == "frmWealthMain") add_sheet_extras(*window);
+    if (screen == "frmWealthMain" || screen == "frmFormBA")
+        keep_edits(*window, program_.session(), [this](const QString& question) {
+            return widgets::says_yes(program_.session().desk, {from_qt(question),
+                                                               "Figures not saved",
+                                                               widgets::Icon::question,
+                                                               {widgets::Answer::yes, widgets::Answer::no}});
+        });
     if (screen == "frmRepPreview") add_report_pages(*window, own_desk_.get());
     if (screen == "frmSprPreview") add_sheet_pages(*window, sheet_, own_desk_.get());
 }

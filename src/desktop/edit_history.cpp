@@ -40,10 +40,18 @@ void EditHistory::begin_step() {
 }
 
 void EditHistory::end_step() {
-    if (--depth_ == 0 && done_.back().empty()) done_.pop_back();
+    if (--depth_ == 0 && !done_.empty() && done_.back().empty()) done_.pop_back();
+}
+
+std::vector<Edit> EditHistory::edits() const {
+    std::vector<Edit> all;
+    for (const Step& step : done_)
+        all.insert(all.end(), step.begin(), step.end());
+    return all;
 }
 
 void EditHistory::clear() {
+    if (depth_ > 0) return; // a step is being put together
     done_.clear();
     undone_.clear();
     run_open_ = false;

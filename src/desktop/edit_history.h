@@ -31,6 +31,8 @@ public:
     void end_step();
     void clear();
 
+    // What was done and not taken back, in its order.
+    [[nodiscard]] std::vector<Edit> edits() const;
     [[nodiscard]] bool can_undo() const { return !done_.empty(); }
     [[nodiscard]] bool can_redo() const { return !undone_.empty(); }
     [[nodiscard]] bool replaying() const { return replaying_; }

@@ -94,11 +94,10 @@ int main(int argc, char** argv) {
     QApplication application(own_argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Levora"));
     QApplication::setApplicationName(QStringLiteral("levora-wealth-tax"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Levora Wealth Tax"));
     QGuiApplication::setDesktopFileName(QStringLiteral("levora-wealth-tax"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/levora-wealth-tax.svg")));
     QApplication::setQuitOnLastWindowClosed(false);
     desktop::apply_look(application, line.shade);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/levora-wealth-tax.svg")));
 
     desktop::DesktopRun run(line.run);
     run.on_ended = [] { QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection); };

@@ -133,6 +133,7 @@ void ScreenWindow::press_button(std::initializer_list<const char*> names) {
 
 void ScreenWindow::detach() {
     if (!form_) return;
+    emit detaching();
     keep_place();
     for (const auto& binding : bindings_)
         binding->detach();
@@ -281,6 +282,25 @@ void ScreenWindow::redo() {
         tell(left_alone == 0 ? tr("Done again.")
                              : tr("Some places have changed since and stay as they are."));
     }
+}
+
+void ScreenWindow::replay(const std::vector<Edit>& edits) {
+    int refused = 0;
+    history_.begin_step();
+    for (const Edit& edit : edits) {
+        Control* control = attached() ? form_->find(edit.control) : nullptr;
+        if (!control) continue;
+        const std::string before = text_at(*control, edit.column, edit.row);
+        bool done = false;
+        if (!act([&] { done = replace_text(*control, edit.column, edit.row, edit.after); })) break;
+        if (done)
+            history_.add({edit.control, edit.column, edit.row, before, edit.after});
+        else
+            ++refused;
+    }
+    history_.end_step();
+    tell(refused == 0 ? tr("The figures are back.")
+                      : tr("%n figure(s) found no place any more.", nullptr, refused));
 }
 
 bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {

@@ -40,6 +40,10 @@ public:
 
     void undo();
     void redo();
+    [[nodiscard]] const EditHistory& history() const { return history_; }
+    void forget_edits() { history_.clear(); }
+    // Types figures again that were kept from another run.
+    void replay(const std::vector<Edit>& edits);
 
     // --- View ---
     void control_changed(const widgets::Control& control, widgets::Aspect aspect) override;
@@ -61,6 +65,8 @@ signals:
     void close_asked();
     // After each act of a person, when the figures stand.
     void settled();
+    // The screen goes away in an orderly manner; it can still be read.
+    void detaching();
     // The window has come up, or again.
     void came_up();
     // F1: where the figure under the focus comes from.

@@ -61,6 +61,9 @@ void Windows::unloading(widgets::Form& form) {
 void Windows::check_end() {
     if (!screens_.ended() || ended_) return;
     ended_ = true;
+    // An orderly end, though no screen is unloaded any more.
+    for (const auto& [name, window] : windows_)
+        if (window) emit window->detaching();
     emit ended();
 }
 

@@ -13,7 +13,8 @@ int main(int argc, char** argv) {
     // Windows without a display, and no place of a person's own touched.
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
     const QTemporaryDir own;
-    setenv("XDG_RUNTIME_DIR", own.path().toUtf8().constData(), 1);
+    for (const char* place : {"XDG_RUNTIME_DIR", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
+        setenv(place, own.path().toUtf8().constData(), 1);
     QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Levora"));
     QApplication::setApplicationName(QStringLiteral("levora-desktop-tests"));

@@ -1,0 +1,125 @@
+#include "desktop/desktop_run.h"
+#include "desktop/grid_view.h"
+#include "desktop/look.h"
+#include "desktop/screen_window.h"
+#include "session/data_folder.h"
+#include "widgets/fields.h"
+#include "widgets/grid.h"
+#include "widgets/headless_desk.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+
+#include <cstdlib>
+#include <memory>
+#include <string>
+
+// Windows: first paint beside that of an empty window with as many widgets, a key beside the edit alone.
+namespace levora::desktop {
+
+namespace {
+
+struct Client {
+    Client() {
+        folder.run(session::Store::assessee,
+                   "INSERT INTO AssesseeInfo (AssesseeNo, Assessee_Name) VALUES (17, 'A. Client')");
+        run = std::make_unique<DesktopRun>(RunOptions{folder.path() + "/settings.toml", folder.path(),
+                                                      folder.path(), "2014-2015 17 Individual x 0"},
+                                           desk);
+    }
+    session::testing::DataFolder folder;
+    widgets::HeadlessDesk desk;
+    std::unique_ptr<DesktopRun> run;
+};
+
+template <class Kind> int count(const QWidget& window) {
+    return static_cast<int>(window.findChildren<Kind*>().size());
+}
+
+// From the start of the program to the painted sheet.
+void first_paint_of_the_sheet(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto client = std::make_unique<Client>();
+        state.ResumeTiming();
+        client->run->start();
+        client->run->windows().find("frmWealthMain")->grab();
+        QApplication::processEvents();
+        state.PauseTiming();
+        client.reset();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(first_paint_of_the_sheet)->Unit(benchmark::kMillisecond);
+
+void first_paint_of_an_empty_window(benchmark::State& state) {
+    Client client;
+    client.run->start();
+    const ScreenWindow& sheet = *client.run->windows().find("frmWealthMain");
+    const int lines = count<QLineEdit>(sheet);
+    const int labels = count<QLabel>(sheet);
+    const int buttons = count<QPushButton>(sheet);
+    const int lists = count<QComboBox>(sheet);
+    const int tables = count<QTableView>(sheet);
+    for (auto _ : state) {
+        QWidget window;
+        auto* layout = new QGridLayout(&window);
+        int row = 0;
+        const auto add = [&](int wanted, auto make) {
+            for (int each = 0; each < wanted; ++each, ++row)
+                layout->addWidget(make(), row / 4, row % 4);
+        };
+        add(lines, [&] { return new QLineEdit(&window); });
+        add(labels, [&] { return new QLabel(QStringLiteral("Net Wealth"), &window); });
+        add(buttons, [&] { return new QPushButton(QStringLiteral("Assets"), &window); });
+        add(lists, [&] { return new QComboBox(&window); });
+        add(tables, [&] { return new QTableView(&window); });
+        window.resize(sheet.size());
+        window.show();
+        window.grab();
+        QApplication::processEvents();
+    }
+    state.counters["widgets"] = lines + labels + buttons + lists + tables;
+}
+BENCHMARK(first_paint_of_an_empty_window)->Unit(benchmark::kMillisecond);
+
+// One figure into a property among 1,000, to the painted cells.
+void key_to_painted_cells(benchmark::State& state) {
+    Client client;
+    client.run->start();
+    client.run->program().session().screens.show("frmImmovable");
+    ScreenWindow& window = *client.run->windows().find("frmImmovable");
+    auto& grid = static_cast<widgets::Grid&>(*window.form()->find("sprImmovable"));
+    static_cast<widgets::ListField&>(*window.form()->find("cboNumberOfProperty"))
+        .type(std::to_string(state.range(0)));
+    auto& view = *window.findChild<GridView*>(QStringLiteral("sprImmovable"));
+    QApplication::processEvents();
+    int figure = 100000;
+    for (auto _ : state) {
+        view.commit(2, 12, std::to_string(++figure));
+        QApplication::processEvents();
+    }
+    benchmark::DoNotOptimize(grid.text(2, 29));
+}
+BENCHMARK(key_to_painted_cells)->Arg(1)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+} // namespace levora::desktop
+
+int main(int argc, char** argv) {
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    benchmark::Initialize(&argc, argv);
+    QApplication application(argc, argv);
+    levora::desktop::apply_look(application, levora::desktop::Shade::light);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
