@@ -76,8 +76,8 @@ public:
 
     // 1 business asset, 2 deemed asset, 0 main schedule, from the two flags.
     [[nodiscard]] int asset_type() const;
-    // " AssesseeNo = 17 And FY = '2014-2015'" in the wording of most statements.
-    [[nodiscard]] std::string assessee_text() const; // the number as statement text
+    // The assessee's number as a statement names it: "17".
+    [[nodiscard]] std::string assessee_text() const;
 
     // A variable by its name, for scripts: a text, number or truth; nothing for an object (null when
     // the name is unknown: found is false).
