@@ -103,7 +103,8 @@ void read_squares(XmlNode& node, std::vector<Element>& elements) {
     const int group = static_cast<int>(node.number_between("group", count, 1, most_squares));
     const double gap = node.number("gap", 0);
     for (int at = 0; at < count; ++at) {
-        const double shift = at * first.width() + at / group * gap;
+        const int gaps = at / group;
+        const double shift = at * first.width() + gaps * gap;
         elements.push_back(frame({first.left + shift, first.top, first.right + shift, first.bottom}, 0.25));
     }
     if (std::string text = node.words(); !text.empty())
