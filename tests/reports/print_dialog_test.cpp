@@ -132,5 +132,33 @@ TEST_F(ReportsTest, ClosingTheSheetPreviewTakesTheTotalRowAway) {
     EXPECT_EQ(land.rows(), rows) << "another grid's preview takes no row";
 }
 
+TEST_F(ReportsTest, TheSheetPreviewStartsTheCalculatorsByTheirKeys) {
+    settings.write(session::registry::shared, "LVCalc Path", "C:\\Levora");
+    start();
+    session().screens.show("frmSprPreview");
+    auto& preview = screen<frmSprPreview>("frmSprPreview");
+    preview.press_key("Ctrl+Alt+C");
+    preview.press_key("Ctrl+Alt+T");
+    preview.press_key("Ctrl+Alt+X");
+    std::string started;
+    for (const auto& each : desk.take_started())
+        started += each.line + "|";
+    EXPECT_EQ(started, "CALC.EXE|C:\\Levora\\Levora Calc.exe|");
+}
+
+TEST_F(ReportsTest, TheWaitingWindowBlinksAndTellsOfAMissingAnimation) {
+    start();
+    session().screens.show("frmReportAvi");
+    EXPECT_EQ(boxes(), "53 File not found: " + folder.path() + "/LevoraRep.avi");
+    EXPECT_EQ(logged(), "ReportAvi - Form_Load");
+    auto& window = screen<frmReportAvi>("frmReportAvi");
+    std::string shown;
+    for (int tick = 0; tick < 3; ++tick) {
+        window.Timer1.tick();
+        shown += window.labWait.visible() ? "on " : "off ";
+    }
+    EXPECT_EQ(shown, "off on off ");
+}
+
 } // namespace
 } // namespace levora::reports
