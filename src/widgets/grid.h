@@ -184,7 +184,7 @@ public:
     [[nodiscard]] std::optional<std::string> accepted(int column, int row, std::string_view text) const;
     // A key at the active cell outside edit mode, by name ("Delete", "Ctrl+Insert", "Tab"). First the
     // screen's handlers, then, where they leave it, the grid's own: arrows, Tab, Enter, Home, End. A
-    // key that also makes a character (Escape 27, Enter 13, Tab 9) sends both.
+    // key that also makes a character, as Escape does (27), sends both.
     void press_key(std::string_view key);
     void type_character(char32_t character);
     // Moves on past the last cell.
