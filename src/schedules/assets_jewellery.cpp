@@ -105,7 +105,8 @@ void JewellerySchedule::sprJewellary_Change(int, int) {
     // the net amount that was stored beside it.
     const int column = sprJewellary.active_column();
     const int row = sprJewellary.active_row();
-    if (row == JewelleryRow::value || row == JewelleryRow::debt)
+    const bool on_item = column >= first_jewellery_column; // a label would be overwritten
+    if (on_item && (row == JewelleryRow::value || row == JewelleryRow::debt))
         sprJewellary.set_value(column, JewelleryRow::net,
                                sprJewellary.value(column, JewelleryRow::value) -
                                    sprJewellary.value(column, JewelleryRow::debt));
