@@ -72,17 +72,6 @@ TEST_F(AssetsColumnsTest, DeletingTheSecondOfThreeLeavesItsRentUnderTheOldNumber
               "1|2000\n2|3000\n3|4000\n");
 }
 
-TEST_F(AssetsColumnsTest, TheLabelsAndTheFirstPropertyCannotBeDeleted) {
-    own_properties("2");
-    for (const int column : {1, 2}) {
-        properties().enter();
-        properties().set_active(column, 3);
-        assets().mnuDeleteColumn.click();
-        EXPECT_EQ(headers(properties()), "1 2 3");
-    }
-    EXPECT_EQ(assets().immovable.cboNumberOfProperty.text(), "2");
-}
-
 TEST_F(AssetsColumnsTest, AddColumnNeedsACountAboveTheColumns) {
     properties().enter();
     for (const char* count : {"0", "3"}) {

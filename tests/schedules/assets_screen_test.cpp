@@ -53,13 +53,6 @@ TEST_F(AssetsScreenTest, TotalsReachTheSummaryInTheMainModeAloneJewelleryInEvery
     }
 }
 
-TEST_F(AssetsScreenTest, TheRecomputationWritesTheSummaryInAnyMode) {
-    session.DeemedAssetFlag = true;
-    own_properties("1");
-    properties().type(2, PropertyRow::annual_value, "100000");
-    EXPECT_EQ(assets().txtNetImmovableProperty.text(), "850000");
-}
-
 TEST_F(AssetsScreenTest, OkOfTheMainModeStoresAndWritesTheSheet) {
     own_properties("1");
     properties().type(2, PropertyRow::annual_value, "100000");
@@ -153,29 +146,6 @@ TEST_F(AssetsScreenTest, OkHandsTheOpenedTabsTotalToTheActiveRowOfItsParent) {
     EXPECT_EQ(stored("Select AssetType From [Asset Details] Order By AssetType"), "1\n2\n");
 }
 
-TEST_F(AssetsScreenTest, BusinessAssetsComesUpWithoutASave) {
-    own_properties("1");
-    EXPECT_FALSE(screens.close("frmImmovable")) << "no way out but the two buttons";
-    EXPECT_TRUE(assets().cmdBusinessAsset.click());
-    EXPECT_EQ(screens.find("frmImmovable"), nullptr);
-    EXPECT_TRUE(screens.find("frmBusinessAssets")->visible());
-    EXPECT_EQ(details(), "");
-}
-
-TEST_F(AssetsScreenTest, ShownAfreshItWorksForTheModeOfTheFlagsNow) {
-    own_properties("1");
-    properties().type(2, PropertyRow::annual_value, "100000");
-    assets().cmdOK.click();
-    session.BusinessAssetFlag = true;
-    session.AssetRowName = "nothing"; // makes the screen, for the business rows, and leaves it hidden
-    open_assets_for_row(session, business_parent);
-    EXPECT_EQ(assets().txtTotalNetAmount.text(), "0");
-    session.BusinessAssetFlag = false;
-    show_assets_afresh(session);
-    EXPECT_EQ(assets().txtTotalNetAmount.text(), "850000");
-    EXPECT_TRUE(assets().cmdBusinessAsset.visible());
-}
-
 TEST_F(AssetsScreenTest, PropertiesComeBackAsStoredEachModeItsOwn) {
     own_properties("2");
     widgets::Grid* grid = &properties();
@@ -222,60 +192,6 @@ TEST_F(AssetsScreenTest, LoadLeavesNullsAndAmountsOfZeroOrLessEmpty) {
     EXPECT_EQ(cells(properties(), 2, {1, 2, 6, 11, 12, 14, 17, 18, 19, 20, 21, 22, 23, 28, 29}),
               "Guest House - - Details - - - 77 1000 1000 20 200 1200 - 1200");
     EXPECT_EQ(assets().txtTotalNetAmount.text(), "1200");
-}
-
-TEST_F(AssetsScreenTest, LandSheetHasATotalRowOnlyThePreviewKeepsItAndCarriesTheTitle) {
-    static_cast<SheetStandIn&>(screens.load("frmWealthMain")).txtAssesseeName.set_text("A. Client");
-    static_cast<SheetStandIn&>(screens.load("frmWealthMain")).cboFY.set_text("2014-2015");
-    widgets::Grid& land = assets().urban_land.sprUrbanLand;
-    land.tag = "Land";
-    assets().urban_land.txtNetValuation.set_text("900");
-    assets().urban_land.txtNetDebtsOwed.set_text("200");
-    assets().urban_land.txtNetAmount.set_text("700");
-    const int rows = land.rows();
-    EXPECT_EQ(land.right_click(), &assets().mnuConxtRow);
-
-    EXPECT_TRUE(assets().mnuPrint.click());
-    EXPECT_EQ(land.rows(), rows);
-    EXPECT_EQ(session.SheetGridName, "");
-    assets().mnuPreview.click();
-    assets().mnuPreview.click(); // one total row is enough
-    EXPECT_EQ(land.rows(), rows + 1);
-    EXPECT_EQ(session.SheetGridName, "sprUrbanLand");
-    std::string shown;
-    for (const auto& sheet : desk.take_sheets()) {
-        const auto& last = sheet.cells.back();
-        shown += (sheet.preview ? "preview [" : "print [") + sheet.header + "] " + last[0] + "|" + last[1] +
-                 "|" + last[2] + "|" + last[3] + "|" + last[4] + "\n";
-    }
-    const std::string title = "/n /n Assessee Name : A. Client/n /n A. Y.  : 2014-2015/n /nLand/n";
-    EXPECT_EQ(shown, "print [] Total||900|200|700\npreview [" + title + "] Total||900|200|700\npreview [" +
-                         title + "] Total||900|200|700\n");
-    assets().leave();
-    EXPECT_EQ(session.SheetGridName, "") << "the next grid recomputes";
-}
-
-TEST_F(AssetsScreenTest, RowMenuSendsKeysThatDeleteNothing) {
-    widgets::Grid& land = assets().urban_land.sprUrbanLand;
-    land.type(1, 1, "Plot");
-    land.right_click();
-    assets().mnuInsertRow.click();
-    assets().mnuDeleteRow.click(); // not the Escape key
-    EXPECT_EQ(land.text(1, 1), "Plot");
-    EXPECT_EQ(land.rows(), 12);
-    EXPECT_TRUE(desk.take_messages().empty());
-}
-
-TEST_F(AssetsScreenTest, AFailingSaveIsReportedUnderItsNameAndEndsWhenDismissed) {
-    own_properties("1");
-    store("Drop Table [Asset Details]");
-    assets().cmdOK.click();
-    const auto messages = desk.take_messages();
-    ASSERT_EQ(messages.size(), 1U);
-    EXPECT_NE(messages[0].box.text.find("Asset Details"), std::string::npos);
-    // As far as it went; the caller goes on.
-    EXPECT_EQ(stored("Select PropertyNo From [Immovable Property Details]"), "1\n");
-    EXPECT_TRUE(screens.find("frmWealthMain")->visible());
 }
 
 } // namespace

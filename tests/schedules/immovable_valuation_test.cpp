@@ -131,18 +131,6 @@ TEST_F(ImmovableValuationTest, TurningFreeholdLocksTheIncreaseLastSoTheDeduction
     EXPECT_EQ(properties().cell_backcolor(2, Row::unearned_increase), 0xFFFFFFU);
 }
 
-TEST_F(ImmovableValuationTest, TotalCountsHiddenColumnsToo) {
-    own_properties("3");
-    for (int column = 2; column <= 4; ++column)
-        properties().type(column, Row::net_value, std::to_string(column * 100));
-    EXPECT_EQ(total(), "900");
-    own_properties("0");
-    EXPECT_EQ(headers(properties()), "(1) (2) (3)");
-    EXPECT_EQ(total(), "900");
-    EXPECT_EQ(assets().txtNetImmovableProperty.text(), "900");
-    EXPECT_EQ(assets().txtTotalNetAmount.text(), "900");
-}
-
 // The figures of the worked examples follow the wording of Part B of Schedule III step by step.
 TEST_F(ImmovableValuationTest, WorkedExamplesOfScheduleIII) {
     // A house on freehold land let at 1,20,000 a year, municipal value 96,000; the tenant bears the

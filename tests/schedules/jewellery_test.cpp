@@ -176,12 +176,4 @@ TEST_F(JewelleryTest, StonesGrowPastTheLastCellAndWithTheirRecords) {
     EXPECT_EQ(jewellery().stones.txtTotal.text(), "12");
 }
 
-TEST_F(JewelleryTest, AFailingStoreEndsTheEventWithTheReportOfTheEvent) {
-    own_items("1");
-    store("Drop Table PreciousStones");
-    open_stones(1);
-    ASSERT_EQ(unanswered.size(), 1U);
-    EXPECT_EQ(unanswered[0].substr(0, unanswered[0].find(':')), "frmImmovable - sprJewellary_ButtonClicked");
-}
-
 } // namespace

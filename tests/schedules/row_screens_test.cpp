@@ -151,29 +151,6 @@ TEST_F(BusinessAssetsTest, ARowOpensItsTabAndItsValueComesBackWhileTheTotalWaits
     EXPECT_EQ(business().txtTotalBusinessAsset.text(), "4001");
 }
 
-TEST_F(BusinessAssetsTest, OkStoresAndBringsTheAssetsUpAfreshWithTheTotal) {
-    screens.show("frmImmovable");
-    assets().cmdBusinessAsset.click();
-    widgets::Grid* grid = &business().sprAssetOfBusiness;
-    grid->choose(BusinessColumn::asset, 1, "Gold");
-    grid->type(BusinessColumn::balance_sheet, 1, "500");
-    grid->choose(BusinessColumn::asset, 2, "Silver"); // nothing taken: dropped
-    grid->type(BusinessColumn::balance_sheet, 3, "70");
-    grid->press(BusinessColumn::details, 3); // no name: opens nothing, the flag stays
-    EXPECT_TRUE(session.BusinessAssetFlag);
-    EXPECT_FALSE(assets().visible() || assets().cmdBusinessAsset.visible());
-    EXPECT_TRUE(business().cmdBusinessAssetSave.click());
-    EXPECT_FALSE(session.BusinessAssetFlag);
-    EXPECT_EQ(screens.find("frmBusinessAssets"), nullptr);
-    EXPECT_TRUE(assets().visible() && assets().frWTDetails.visible() && assets().cmdBusinessAsset.visible());
-    EXPECT_EQ(assets().txtNetBusinessAssets.text() + "/" + assets().txtTotalNetAmount.text(), "570/570");
-    EXPECT_EQ(stored("Select * From BusinessAsset"),
-              "17|2014-2015|1|Gold|500|0|500\n17|2014-2015|1||70|0|70\n");
-    assets().cmdBusinessAsset.click();
-    EXPECT_EQ(table(business().sprAssetOfBusiness, {1, 1, 2, 3}), "Gold|500\n|70\n|\n");
-    EXPECT_EQ(business().txtTotalBusinessAsset.text(), "570");
-}
-
 TEST_F(BusinessAssetsTest, CancelKeepsTheScreenLoadedWithItsRows) {
     session.BusinessAssetFlag = true;
     business().sprAssetOfBusiness.type(BusinessColumn::balance_sheet, 1, "500");
@@ -246,16 +223,6 @@ TEST_F(ExemptedAssetsTest, KeysAndMenuWorkOnTheActiveRow) {
     EXPECT_EQ(exempt().txtTotalAssetExempt.text(), "10");
 }
 
-TEST_F(ExemptedAssetsTest, SheetsCarryNoHeader) {
-    exempt().sprAssetExempt.type(2, 1, "5");
-    exempt().mnuPrintSheet.click();
-    exempt().mnuPreviewSheet.click();
-    const auto sheets = desk.take_sheets();
-    ASSERT_EQ(sheets.size(), 2U);
-    EXPECT_EQ(sheets[0].header + sheets[1].header, "");
-    EXPECT_EQ(std::to_string(sheets[0].preview) + std::to_string(sheets[1].preview), "01");
-}
-
 TEST_F(RowScreensTest, TheCloseBoxLeavesNobodyWithoutAScreen) {
     sheet();
     for (const char* name : {"frmDeemedAsset", "frmAssetExempt"}) {
@@ -269,23 +236,6 @@ TEST_F(RowScreensTest, TheCloseBoxLeavesNobodyWithoutAScreen) {
     EXPECT_TRUE(screens.close("frmBusinessAssets"));
     EXPECT_TRUE(screens.find("frmImmovable")->visible());
     EXPECT_FALSE(session.BusinessAssetFlag);
-}
-
-TEST_F(RowScreensTest, FailuresAreReportedUnderTheProcedureAndItsCallerGoesOn) {
-    struct Case {
-        const char *screen, *table;
-    };
-    constexpr Case cases[] = {{"frmDeemedAsset", "DeemedAssetDetails"},
-                              {"frmBusinessAssets", "BusinessAsset"},
-                              {"frmAssetExempt", "AssetUnderExemption"}};
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.screen);
-        store(std::string("Drop Table ") + each.table);
-        screens.show(each.screen);
-        EXPECT_TRUE(screens.find(each.screen)->visible());
-        EXPECT_NE(asked().find(each.table), std::string::npos);
-    }
-    EXPECT_TRUE(unanswered.empty());
 }
 
 } // namespace
