@@ -5,6 +5,7 @@
 #include "desktop/field_bindings.h"
 #include "desktop/grid_view.h"
 #include "desktop/look.h"
+#include "desktop/overlays.h"
 #include "desktop/qt_text.h"
 #include "desktop/spin_pair.h"
 #include "widgets/fields.h"
@@ -138,6 +139,17 @@ public:
     }
 
 private:
+    void show_state() override {
+        const bool was_open = !widget()->isHidden();
+        Binding::show_state();
+        const bool open = !widget()->isHidden();
+        if (open == was_open || !widget()->property("overlay").toBool() || !widget()->window()->isVisible())
+            return;
+        if (open)
+            overlay_opened(*widget());
+        else
+            overlay_closed(*widget());
+    }
     void show_content() override {
         if (auto* box = qobject_cast<QGroupBox*>(widget()))
             box->setTitle(to_qt(frame_.caption()).simplified());

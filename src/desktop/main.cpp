@@ -100,7 +100,11 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/levora-wealth-tax.svg")));
 
     desktop::DesktopRun run(line.run);
-    run.on_ended = [] { QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection); };
+    // Not quit(), which would ask every window for its leave.
+    run.on_ended = [] {
+        QMetaObject::invokeMethod(
+            qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+    };
     if (!run.start()) return 0;
     return QApplication::exec();
 }

@@ -57,6 +57,9 @@ ScreenWindow::~ScreenWindow() {
 // --- tying ---
 
 void ScreenWindow::tie_controls() {
+    // Each name is looked up here, once: a search of the whole window per control would cost more.
+    for (QWidget* widget : centralWidget()->findChildren<QWidget*>())
+        by_name_.insert(widget->objectName(), widget);
     for (Control* control : form_->controls())
         tie(*control);
     for (const auto& binding : bindings_)
@@ -64,7 +67,7 @@ void ScreenWindow::tie_controls() {
 }
 
 void ScreenWindow::tie(Control& control) {
-    QWidget* widget = centralWidget()->findChild<QWidget*>(to_qt(control.name()));
+    QWidget* widget = by_name_.value(to_qt(control.name()));
     const QString needed = QLatin1String(widget_class_of(control.kind()));
     if (needed.isEmpty() && control.kind() != ControlKind::timer) return;
     if (!widget && control.kind() != ControlKind::timer) {
@@ -81,7 +84,7 @@ void ScreenWindow::tie(Control& control) {
         by_widget_[widget] = binding.get();
         widget->installEventFilter(this);
         if (auto* label =
-                centralWidget()->findChild<QLabel*>(QStringLiteral("label_") + to_qt(control.name()))) {
+                qobject_cast<QLabel*>(by_name_.value(QStringLiteral("label_") + to_qt(control.name())))) {
             label->setText(to_qt(control.label).simplified());
             label->setBuddy(widget);
             binding->set_label(label);
@@ -158,6 +161,7 @@ Control* ScreenWindow::control_of(const QObject* widget) const {
 
 void ScreenWindow::control_changed(const Control& control, Aspect aspect) {
     if (Binding* binding = binding_of(control)) binding->refresh(aspect);
+    if (control.kind() == ControlKind::text_field && aspect == Aspect::content) emit figure_changed();
 }
 
 void ScreenWindow::cell_changed(const widgets::Grid& grid, int column, int row) {

@@ -5,6 +5,7 @@
 #include "desktop/edit_history.h"
 #include "widgets/form.h"
 
+#include <QHash>
 #include <QMainWindow>
 
 #include <memory>
@@ -63,6 +64,8 @@ public:
 signals:
     // A person asks for the end of the screen by its close box.
     void close_asked();
+    // The program has put another text into a field.
+    void figure_changed();
     // After each act of a person, when the figures stand.
     void settled();
     // The screen goes away in an orderly manner; it can still be read.
@@ -96,6 +99,7 @@ private:
     std::vector<std::unique_ptr<Binding>> bindings_;
     std::unordered_map<const widgets::Control*, Binding*> by_control_;
     std::unordered_map<const QObject*, Binding*> by_widget_;
+    QHash<QString, QWidget*> by_name_; // widgets of the layout; filled while they are tied
     QStringList faults_;
     QLabel* foot_ = nullptr;
     bool select_on_release_ = false;

@@ -6,6 +6,8 @@
 #include "desktop/screen_window.h"
 #include "widgets/fields.h"
 
+#include <QTimer>
+
 #include <array>
 
 namespace levora::desktop {
@@ -69,7 +71,13 @@ void add_sheet_extras(ScreenWindow& window) {
                      [&window](const widgets::Control* control) { tell_why(window, control); });
     auto* chart = window.findChild<CompositionChart*>();
     if (!chart) return;
-    QObject::connect(&window, &ScreenWindow::settled, chart, [&window, chart] {
+    // A chain of figures is drawn once, when it stands.
+    auto* soon = new QTimer(chart);
+    soon->setSingleShot(true);
+    const auto draw_soon = [soon] { soon->start(0); };
+    QObject::connect(&window, &ScreenWindow::figure_changed, soon, draw_soon);
+    QObject::connect(&window, &ScreenWindow::settled, soon, draw_soon);
+    QObject::connect(soon, &QTimer::timeout, chart, [&window, chart] {
         if (window.attached()) show_composition(window, *chart);
     });
     QObject::connect(&window, &ScreenWindow::came_up, chart, [&window, chart] {
