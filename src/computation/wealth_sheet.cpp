@@ -143,15 +143,9 @@ void frmWealthMain::cmdMainExit_Click() {
     session_.screens.unload(name());
 }
 
-// Wanted: sheets of this screen carry margins, but neither header nor footer; and no Failure is
-// reported here, that of a cancelled printer above all.
+// Wanted: sheets of this screen carry margins, but neither header nor footer.
 void frmWealthMain::sheet_of_active_grid(session::SheetUse use) {
-    widgets::Grid* const grid = session::active_grid(*this);
-    if (!grid) return;
-    try {
-        session::show_grid_sheet(session_, *grid, use);
-    } catch (const Failure&) {
-    }
+    if (widgets::Grid* grid = session::active_grid(*this)) session::show_grid_sheet(session_, *grid, use);
 }
 
 } // namespace levora::computation

@@ -113,7 +113,7 @@ int FirmSchedule::rows_to_delete() const {
 
 void FirmSchedule::load(const Attempt& attempt) {
     sprAssetInterest.clear_data();
-    session_.SqlText = "Select * From [InterestInFirmOrAOP] Where " + asset_key(session_);
+    session_.SqlText = "Select * From [InterestInFirmOrAOP] where " + asset_key(session_);
     RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
     fill_rows(sprAssetInterest, fields, records, RowGrowth::as_needed);
     // Wanted: the names' column, which no total follows: the total stays empty after a load.

@@ -28,15 +28,12 @@ void frmImmovable::sheet_of_active_grid(SheetUse use) {
     if (grid == nullptr) return;
     const bool with_total_row = grid->name() == grid_with_total_row;
     if (with_total_row) add_sheet_total_row();
-    try {
-        // Wanted: only the preview carries the title.
-        grid->print_header = use == SheetUse::preview ? title_of(session_, *grid) : std::string();
-        if (use == SheetUse::preview) grid->print_margin_bottom = sheet_bottom_margin;
-        session::show_grid_sheet(session_, *grid, use);
-    } catch (const Failure&) {
-        // No sheet, and no word of it: a print that was cancelled ends here.
-    }
-    if (with_total_row && use == SheetUse::print) remove_sheet_total_row();
+    // Wanted: only the preview carries the title.
+    grid->print_header = use == SheetUse::preview ? title_of(session_, *grid) : std::string();
+    if (use == SheetUse::preview) grid->print_margin_bottom = sheet_bottom_margin;
+    const bool shown = session::show_grid_sheet(session_, *grid, use);
+    // Under a preview the row stays until that is closed.
+    if (with_total_row && (use == SheetUse::print || !shown)) remove_sheet_total_row();
 }
 
 void frmImmovable::add_sheet_total_row() {

@@ -12,15 +12,20 @@ widgets::Grid* active_grid(const widgets::Form& form) {
     return static_cast<widgets::Grid*>(active);
 }
 
-void show_grid_sheet(Session& session, widgets::Grid& grid, SheetUse use) {
+bool show_grid_sheet(Session& session, widgets::Grid& grid, SheetUse use) {
     grid.print_margin_left = sheet_margin;
     grid.print_margin_top = sheet_margin;
-    if (use == SheetUse::print) {
-        session.desk.print_sheet(grid);
-        return;
+    try {
+        if (use == SheetUse::print) {
+            session.desk.print_sheet(grid);
+        } else {
+            session.desk.preview_sheet(grid);
+            if (session.screens.defined("frmSprPreview")) session.screens.show("frmSprPreview");
+        }
+    } catch (const Failure&) {
+        return false;
     }
-    session.desk.preview_sheet(grid);
-    if (session.screens.defined("frmSprPreview")) session.screens.show("frmSprPreview");
+    return true;
 }
 
 std::string sheet_title(std::string_view assessee, std::string_view year, const widgets::Grid& grid) {

@@ -32,6 +32,26 @@ public:
     widgets::Grid rows;
 };
 
+// A desk whose printer and preview can be out of order.
+class PaperlessDesk : public widgets::HeadlessDesk {
+public:
+    bool has_paper = true;
+    void print_sheet(const widgets::Grid& grid) override {
+        need_paper();
+        HeadlessDesk::print_sheet(grid);
+    }
+    void preview_sheet(const widgets::Grid& grid) override {
+        need_paper();
+        HeadlessDesk::preview_sheet(grid);
+    }
+
+private:
+    void need_paper() const {
+        constexpr int cancelled = 32755;
+        if (!has_paper) throw Failure(cancelled, "Cancel was selected");
+    }
+};
+
 // One assessee and year on an empty store in a folder of its own.
 class AssetsTest : public testing::Test {
 protected:
@@ -127,7 +147,7 @@ private:
     Folder folder_;
 
 protected:
-    widgets::HeadlessDesk desk;
+    PaperlessDesk desk;
     session::Settings settings{folder() + "settings.toml"};
     session::Session session{{desk, settings, folder(), "", "DESK"}};
     widgets::Screens& screens = session.screens;

@@ -223,6 +223,21 @@ TEST_F(ExemptedAssetsTest, KeysAndMenuWorkOnTheActiveRow) {
     EXPECT_EQ(exempt().txtTotalAssetExempt.text(), "10");
 }
 
+TEST_F(RowScreensTest, ASheetThatCannotBeHadEndsWithoutAWordAndWithoutATotalRow) {
+    desk.has_paper = false;
+    exempt().sprAssetExempt.enter();
+    exempt().mnuPrintSheet.click();
+    exempt().mnuPreviewSheet.click();
+    widgets::Grid& land = assets().urban_land.sprUrbanLand;
+    land.enter();
+    const int rows = land.rows();
+    assets().mnuPrint.click();
+    assets().mnuPreview.click();
+    EXPECT_EQ(land.rows(), rows);
+    EXPECT_EQ(session.SheetGridName + asked(), "");
+    EXPECT_TRUE(unanswered.empty());
+}
+
 TEST_F(RowScreensTest, TheCloseBoxLeavesNobodyWithoutAScreen) {
     sheet();
     for (const char* name : {"frmDeemedAsset", "frmAssetExempt"}) {
