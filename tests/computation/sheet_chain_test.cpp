@@ -38,6 +38,8 @@ TEST_F(SheetChainTest, RoundsToHundredAndTaxesTheExcess) {
         EXPECT_EQ(sheet().txtTaxableWealth.text(), each.taxable);
         EXPECT_EQ(sheet().txtWealthTaxLiability.text(), each.tax);
     }
+    sheet().txtExemptedAssets.set_text("500000");
+    EXPECT_EQ(sheet().txtWealthTaxLiability.text(), "10000") << "exempted assets are for reporting only";
 }
 
 TEST_F(SheetChainTest, OneWriteFillsAnEmptySheetWithNoughts) {

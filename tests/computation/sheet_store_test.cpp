@@ -63,6 +63,7 @@ TEST_F(SheetStoreTest, SaveAddsOneRowAndUpdatesItFromThenOn) {
 TEST_F(SheetStoreTest, TheCloseBoxSavesNothingAndClosesTwoConnections) {
     sheet().txtLessDebt.type("222");
     EXPECT_TRUE(fresh.session().screens.close("frmWealthMain"));
+    EXPECT_TRUE(fresh.session().screens.ended());
     EXPECT_FALSE(fresh.session().AssesseeDb.is_open() || fresh.session().TaxDb.is_open());
     EXPECT_TRUE(fresh.session().ITDb.is_open() && fresh.session().FormsDb.is_open());
     EXPECT_EQ(fresh.rows(Store::tax, "SELECT * FROM NetWealthComputation"), "");
@@ -77,6 +78,16 @@ TEST_F(SheetStoreTest, ADateThatIsNoneKeepsTheRowFromTheStoreAndExitGoesOn) {
     EXPECT_TRUE(fresh.session().screens.ended());
     EXPECT_EQ(fresh.rows(Store::tax, "SELECT * FROM NetWealthComputation"), "");
     EXPECT_EQ(fresh.rows(Store::tax, "SELECT Amount FROM PrePaidTaxes"), "500");
+}
+
+TEST_F(SheetStoreTest, ASaveThatARowBreaksOffLeavesTheRowsAsFarAsTheyWent) {
+    for (int row = 1; row <= 4; ++row)
+        sheet().sprSATax.type(PrepaidColumn::amount, row, std::to_string(10 + row));
+    fresh.run(Store::tax, "CREATE TRIGGER no_13 BEFORE INSERT ON PrePaidTaxes WHEN NEW.Amount = 13 "
+                          "BEGIN SELECT RAISE(ABORT, 'no thirteen'); END");
+    sheet().cmdSave1.click();
+    EXPECT_NE(fresh.boxes().find("no thirteen"), std::string::npos);
+    EXPECT_EQ(fresh.rows(Store::tax, "SELECT Amount FROM PrePaidTaxes"), "11; 12");
 }
 
 TEST_F(SheetStoreTest, AYearPickedAgainLosesWhatWasNotSaved) {

@@ -16,6 +16,10 @@ TEST_F(StartUpTest, JudgesTheCommandLine) {
         {"empty words count", "2014-2015 17   ", true},
         {"years that do not follow", "2014-2016 17 Individual x 0", false},
         {"years the wrong way round", "2014-2013 17 Individual x 0", false},
+        {"a letter in a year", "2014-201x 17 Individual x 0", false},
+        {"a slash for the hyphen", "2014/2015 17 Individual x 0", false},
+        {"a short year", "2014-15 17 Individual x 0", false},
+        {"assessee 0", "2014-2015 0 Individual x 0", false},
         {"assessee -3", "2014-2015 -3 Individual x 0", false},
         {"an assessee of letters", "2014-2015 17a Individual x 0", false},
         {"two blanks: word 1 is empty", "2014-2015  17 Individual x 0", false},
@@ -26,7 +30,12 @@ TEST_F(StartUpTest, JudgesTheCommandLine) {
     for (const Case& each : cases) {
         SCOPED_TRACE(each.why);
         EXPECT_EQ(start(each.line), each.starts);
-        EXPECT_EQ(fresh.boxes(), each.starts ? "" : "Improper call to 'Wealth Tax'");
+        const auto shown = fresh.desk.take_messages();
+        EXPECT_EQ(shown.size(), each.starts ? 0U : 1U);
+        for (const auto& each_shown : shown) {
+            EXPECT_EQ(each_shown.box.text, "Improper call to 'Wealth Tax'");
+            EXPECT_EQ(each_shown.box.icon, widgets::Icon::critical);
+        }
         EXPECT_EQ(fresh.session().AssesseeDb.is_open(), each.starts) << "before any store is opened";
     }
     EXPECT_EQ(fresh.logged(), "");
