@@ -114,6 +114,7 @@ constexpr Method list_field_methods[] = {
 int push_column_items(lua_State* state, const Control& control) {
     const auto& list = as<ColumnList>(control);
     std::vector<std::string> items;
+    items.reserve(static_cast<std::size_t>(list.count()));
     for (int row = 0; row < list.count(); ++row)
         items.push_back(list.cell(row, 0));
     return push(state, items);
