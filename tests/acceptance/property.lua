@@ -74,6 +74,20 @@ same(grid:text(2, 11) .. "|" .. grid:text(2, 13), "718111|718111")
 local stored = store("LVWTax", "SELECT * FROM [Annual Rent]")
 same(#stored, 1)
 same(stored[1].RepairByTenant .. "|" .. stored[1].AmtDepositedformonths .. "|" .. stored[1].PropertyNo, "1|12|1")
+-- An existing row is overwritten in place; tax, premium and benefit add to the rent.
+grid:press(2, 11)
+rent:type(2, 2, "7")
+rent:type(2, 8, "5")
+frmImmovable.cmdOKAnnualRent:click()
+same(grid:text(2, 11), "718123")
+stored = store("LVWTax", "SELECT * FROM [Annual Rent]")
+same(#stored .. "|" .. stored[1].RecievableRent .. "|" .. stored[1].TaxesBorneByTenant .. "|"
+    .. stored[1].DepositAccepted .. "|" .. stored[1].RecievedAMTforLeaseProperty .. "|"
+    .. stored[1].BenefitFromTenantToOwner, "1|100|7|120000|700000|5")
+rent:type(2, 2, "") -- without an opening: the active column still names the property
+rent:type(2, 8, "")
+frmImmovable.cmdOKAnnualRent:click()
+same(grid:text(2, 11), "718111")
 
 -- Unbuilt area: the share goes by the name of the premises.
 grid:type(2, 3, "Mumbai")
@@ -92,6 +106,14 @@ same(grid:value(2, 23), v * 1.4, "at once")
 same(grid:value(2, 27), 6000000, "while these wait")
 grid:type(2, 28, "0")
 same(grid:value(2, 29), v * 1.4)
+stored = store("LVWTax", "SELECT * FROM [Unbuilt Area]")
+same(#stored .. "|" .. stored[1].PropertyNo .. "|" .. stored[1].AssetType .. "|" .. stored[1].AggregateAreaOfPlot
+    .. "|" .. stored[1].BuiltUpAreaOfPlot .. "|" .. stored[1].CalculatedPercentage, "1|1|0|1000|200|20")
+grid:press(2, 21)
+same(texts(plot, 8, 1, 2), "Premium to be added @|40%", "restored")
+plot:type(2, 1, "7")
+frmImmovable.cmdUnbuiltAreaCancel:click()
+same(grid:text(2, 21) .. #store("LVWTax", "SELECT * FROM [Unbuilt Area] WHERE AggregateAreaOfPlot = 7"), "400")
 
 -- A second property; the first can't be deleted.
 frmImmovable.cboNumberOfProperty:type("2")

@@ -67,27 +67,6 @@ TEST_F(AnnualRentTest, DepositAddsFifteenPerCentForItsMonthsHalvesToTheEvenNeigh
     EXPECT_EQ(grid().text(2, 6), "0") << "no months selected";
 }
 
-TEST_F(AnnualRentTest, OkStoresAndHandsTheTotalToThePropertyAndValuesIt) {
-    open(3);
-    EXPECT_TRUE(rent().frAnnualRent.visible());
-    for (const int row : {1, 2, 7, 8})
-        grid().type(2, row, "100" + std::to_string(row));
-    grid().check(1, 3, true);
-    EXPECT_EQ(amounts(), "1: 1001 1002 111 - 2 0 1007 1008 = 4129");
-    EXPECT_TRUE(rent().cmdOKAnnualRent.click());
-    EXPECT_FALSE(rent().frAnnualRent.visible());
-    EXPECT_EQ(cells(properties(), 3, {11, 13, 16, 29}), "4129 4129 3510 35100"); // 4129 - 619
-    EXPECT_EQ(assets().txtTotalNetAmount.text(), "35100");
-    EXPECT_EQ(stored("Select AssesseeNo, FY, AssetType, PropertyNo, RecievableRent, TaxesBorneByTenant, "
-                     "RepairByTenant, DepositAccepted, AmtDepositedformonths, RecievedAMTforLeaseProperty, "
-                     "BenefitFromTenantToOwner From [Annual Rent]"),
-              "17|2014-2015|0|2|1001|1002|1|0|2|1007|1008\n");
-    open(3); // an existing row is overwritten in place
-    grid().type(2, 1, "5");
-    rent().cmdOKAnnualRent.click();
-    EXPECT_EQ(stored("Select PropertyNo, RecievableRent From [Annual Rent]"), "2|5\n");
-}
-
 TEST_F(AnnualRentTest, APropertyWithoutARowTakesTheFiguresShownLast) {
     open(2);
     grid().type(2, 1, "900");

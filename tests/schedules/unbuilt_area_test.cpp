@@ -82,28 +82,6 @@ TEST_F(UnbuiltAreaTest, LabelNamesTheCity) {
     EXPECT_EQ(grid().text(1, 4), "Specified Area of Property In ");
 }
 
-TEST_F(UnbuiltAreaTest, OkStoresAndPricesThePremiumWhileTheRowsBehindWait) {
-    properties().type(2, PropertyRow::annual_value, "100000"); // 850000
-    open("Mumbai");
-    grid().type(2, 1, "1000.5");
-    grid().type(2, 2, "250");
-    EXPECT_EQ(areas(), "1000.5 250 750.5 600.3 150.2 15.01 15.01 40%");
-    EXPECT_TRUE(panel().cmdUnbuiltAreaOk.click());
-    EXPECT_FALSE(panel().frUnbuiltArea.visible());
-    EXPECT_EQ(cells(properties(), 2, {20, 21, 22, 23, 25, 27, 29}),
-              "850000 40 340000 1190000 425000 850000 850000");
-    properties().type(2, PropertyRow::road, "x");
-    EXPECT_EQ(cells(properties(), 2, {21, 22, 23, 25, 27, 29}), "40 340000 1190000 595000 1190000 1190000");
-    const std::string select = "Select AssesseeNo, FY, AssetType, PropertyNo, AggregateAreaOfPlot, "
-                               "BuiltUpAreaOfPlot, CalculatedPercentage From [Unbuilt Area]";
-    EXPECT_EQ(stored(select), "17|2014-2015|0|1|1000.5|250|15.01\n");
-    open("Mumbai");
-    EXPECT_EQ(areas(), "1000.5 250 750.5 600.3 150.2 15.01 15.01 40%");
-    grid().type(2, 1, "7");
-    EXPECT_TRUE(panel().cmdUnbuiltAreaCancel.click());
-    EXPECT_EQ(stored(select), "17|2014-2015|0|1|1000.5|250|15.01\n");
-}
-
 TEST_F(UnbuiltAreaTest, KeysMoveDownAndClearTypedCellsOnly) {
     open("");
     grid().type(2, 1, "1000");
