@@ -8,7 +8,8 @@
 namespace levora::desktop {
 
 namespace {
-constexpr int row_height = 46;
+constexpr int row_height = 46; // where there is room
+constexpr int least_row_height = 34;
 constexpr int bar_height = 10;
 } // namespace
 
@@ -42,6 +43,8 @@ void CompositionChart::paintEvent(QPaintEvent*) {
     QFont plain = font();
     QFont strong = font();
     strong.setWeight(QFont::DemiBold);
+    const int rows = std::max(1, static_cast<int>(bars_.size()));
+    const int step = std::clamp(height() / rows, least_row_height, row_height);
     int top = 0;
     for (const Bar& bar : bars_) {
         painter.setFont(bar.total ? strong : plain);
@@ -65,7 +68,7 @@ void CompositionChart::paintEvent(QPaintEvent*) {
                        QSizeF(std::max(4.0, track.width() * bar.amount / largest), bar_height)),
                 3, 3);
         }
-        top += row_height;
+        top += step;
     }
 }
 

@@ -308,6 +308,12 @@ void GridView::type_character(const QString& typed) {
         acts_->tell(tr("This cell is computed or fixed; it can't be typed in."));
         return;
     }
+    const CellKind kind = grid_->cell_kind(column, row);
+    const bool figure = kind == CellKind::number || kind == CellKind::percent;
+    if (figure && !QStringLiteral("0123456789.,-+%").contains(typed)) {
+        acts_->tell(tr("%1 takes a figure.").arg(plain_words(grid_->header(column))));
+        return;
+    }
     start_edit(typed);
 }
 

@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include <array>
+#include <span>
 
 namespace levora::desktop {
 
@@ -20,7 +21,7 @@ struct ChartLine {
 };
 
 // From what is owned to what is owed; the words are those of the fields.
-constexpr std::array chart_lines{
+constexpr std::array sheet_lines{
     ChartLine{"txtAssetsSec2ea", false},
     ChartLine{"txtDeemedAssets", false},
     ChartLine{"txtAssetsChargeableToWTax", true},
@@ -28,6 +29,12 @@ constexpr std::array chart_lines{
     ChartLine{"txtNetWealth", true},
     ChartLine{"txtTaxableWealth", true},
     ChartLine{"txtWealthTaxLiability", false},
+};
+// What the assets are made of.
+constexpr std::array asset_lines{
+    ChartLine{"txtNetImmovableProperty", false}, ChartLine{"txtNetMovableProperty", false},
+    ChartLine{"txtNetUrbanLand", false},         ChartLine{"txtNetInterestInFirm", false},
+    ChartLine{"txtNetBusinessAssets", false},    ChartLine{"txtNetJewellery", false},
 };
 
 // The part of a field's words that fits a chart: without number and brackets.
@@ -44,14 +51,19 @@ QString short_words(const std::string& label) {
 }
 
 void show_composition(const ScreenWindow& window, CompositionChart& chart) {
+    const widgets::Form& form = *window.form();
     // The panels of challans and enclosures take its place.
-    const bool room =
-        !window.form()->find("frSATax")->visible() && !window.form()->find("frEnclosure")->visible();
-    if (QWidget* card = chart.parentWidget(); card->isHidden() == room) card->setVisible(room);
-    if (!room) return;
+    const widgets::Control* challans = form.find("frSATax");
+    const widgets::Control* enclosures = form.find("frEnclosure");
+    const bool covered = (challans && challans->visible()) || (enclosures && enclosures->visible());
+    if (QWidget* card = chart.parentWidget(); challans && card->isHidden() != covered)
+        card->setVisible(!covered);
+    if (covered) return;
+    const std::span<const ChartLine> chart_lines =
+        form.name() == "frmWealthMain" ? std::span<const ChartLine>(sheet_lines) : asset_lines;
     std::vector<CompositionChart::Bar> bars;
     for (const ChartLine& line : chart_lines) {
-        const auto* field = static_cast<const widgets::TextField*>(window.form()->find(line.control));
+        const auto* field = static_cast<const widgets::TextField*>(form.find(line.control));
         if (!field) continue;
         bars.push_back({short_words(field->label), field->value(),
                         to_qt(group_indian_text(number_text(field->value()))), line.total});

@@ -59,8 +59,16 @@ void ScreenWindow::focus_came(Control& control, QObject* widget, Qt::FocusReason
     if (!act([&] { control.enter(); })) return;
     tell(to_qt(control.tooltip()));
     // Entering a field selects all of it.
-    if (auto* line = qobject_cast<QLineEdit*>(widget); line && reason != Qt::MouseFocusReason)
-        line->selectAll();
+    auto* line = qobject_cast<QLineEdit*>(widget);
+    if (auto* list = qobject_cast<QComboBox*>(widget)) line = list->lineEdit();
+    if (!line || reason == Qt::MouseFocusReason) return;
+    // After the field's own answer to the focus, which moves the cursor of a mask.
+    QMetaObject::invokeMethod(
+        line,
+        [line] {
+            if (line->hasFocus()) line->selectAll();
+        },
+        Qt::QueuedConnection);
 }
 
 bool ScreenWindow::focus_goes(Control& control) {

@@ -81,6 +81,15 @@ TEST_F(GridViewTest, WhatACellRefusesStaysInTheEditorWithTheReason) {
     EXPECT_TRUE(foot().contains(QStringLiteral("9,99,99,99,999"))) << foot().toStdString();
 }
 
+TEST_F(GridViewTest, ALetterStartsNoFigure) {
+    grid().set_active(6, 1);
+    keys("x");
+    EXPECT_FALSE(editor_of(view()));
+    keys("5");
+    press(Qt::Key_Return);
+    EXPECT_EQ(grid().text(6, 1), "5");
+}
+
 TEST_F(GridViewTest, AKeyThatTheGridAnswersStartsNoEdit) {
     grid().type(1, 1, "first");
     grid().set_active(1, 1);
@@ -159,6 +168,18 @@ TEST_F(AssetsGridTest, ColumnsComeAndGoWithTheCountAndLabelsAreLocked) {
     EXPECT_FALSE(view().model()->index(0, 0).flags() & Qt::ItemIsEditable);
     const QVariant ground = view().model()->index(0, 0).data(Qt::BackgroundRole);
     EXPECT_TRUE(ground.isValid());
+}
+
+TEST_F(AssetsGridTest, EnteringAListThatIsTypedInSelectsAllOfIt) {
+    show("frmImmovable");
+    auto& count = widget<QComboBox>("frmImmovable", "cboNumberOfProperty");
+    control<widgets::ListField>("frmImmovable", "cboNumberOfProperty").type("3");
+    count.setFocus(Qt::OtherFocusReason);
+    QApplication::processEvents();
+    QTest::keyClicks(count.lineEdit(), "5");
+    EXPECT_EQ(control<widgets::ListField>("frmImmovable", "cboNumberOfProperty").text(), "5");
+    EXPECT_EQ(run->program().session().screens.find("frmImmovable")->active_control()->name(),
+              "cboNumberOfProperty");
 }
 
 TEST_F(AssetsGridTest, FiguresAreGroupedAndStandRightAndLockedCellsAreSkippedByAPaste) {
