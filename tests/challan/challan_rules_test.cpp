@@ -113,8 +113,12 @@ TEST_F(ChallanTest, ReceivingBankBringsItsCode) {
     on.cboDrawnOn.enter();
     on.cboPaymentBank.choose("Second Bank");
     EXPECT_EQ(on.txtBSRCode.text(), "0220002");
-    on.cboPaymentBank.type("Unknown");
-    EXPECT_EQ(on.txtBSRCode.text(), "0220002") << "an unknown bank leaves the code";
+    data.run(session::Store::assessee, "INSERT INTO AICustomisedItems (ItemGroup, Item, OtherInfo1, SrNo) "
+                                       "VALUES ('Bank', 'Dena', '', 3), ('Other', 'X', '9', 4)");
+    for (const char* bank : {"Unknown", "Dena", "X"}) { // none, without a code, and no bank
+        on.cboPaymentBank.type(bank);
+        EXPECT_EQ(on.txtBSRCode.text(), "0220002") << bank << " leaves the code";
+    }
     on.cboPaymentBank.type("First Bank");
     EXPECT_EQ(on.txtBSRCode.text(), "0110001") << "typing looks it up too";
     on.cboPaymentBank.type("King's");
