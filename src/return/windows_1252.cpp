@@ -19,6 +19,10 @@ struct Decoded {
     std::size_t length = 0; // 0: no UTF-8 here
 };
 
+bool is_beyond_ascii(char byte) {
+    return static_cast<unsigned char>(byte) >= 0x80;
+}
+
 Decoded decode_utf8(std::string_view text) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned char first = byte(0);
@@ -60,12 +64,15 @@ void append_utf8(std::string& text, char32_t character) {
 std::string to_windows_1252(std::string_view utf8) {
     std::string bytes;
     bytes.reserve(utf8.size());
-    while (!utf8.empty()) {
-        const Decoded next = decode_utf8(utf8);
-        bytes += next.length == 0 ? '?' : byte_of(next.character);
-        utf8.remove_prefix(std::max<std::size_t>(next.length, 1));
+    for (;;) {
+        const auto* const next = std::find_if(utf8.begin(), utf8.end(), is_beyond_ascii);
+        bytes.append(utf8.begin(), next);
+        if (next == utf8.end()) return bytes;
+        utf8.remove_prefix(static_cast<std::size_t>(next - utf8.begin()));
+        const Decoded decoded = decode_utf8(utf8);
+        bytes += decoded.length == 0 ? '?' : byte_of(decoded.character);
+        utf8.remove_prefix(std::max<std::size_t>(decoded.length, 1));
     }
-    return bytes;
 }
 
 std::string from_windows_1252(std::string_view bytes) {
@@ -80,9 +87,8 @@ std::string from_windows_1252(std::string_view bytes) {
 }
 
 bool is_utf8(std::string_view bytes) {
-    const auto beyond_ascii = [](char byte) { return static_cast<unsigned char>(byte) >= 0x80; };
     for (;;) {
-        const auto* const next = std::find_if(bytes.begin(), bytes.end(), beyond_ascii);
+        const auto* const next = std::find_if(bytes.begin(), bytes.end(), is_beyond_ascii);
         if (next == bytes.end()) return true;
         bytes.remove_prefix(static_cast<std::size_t>(next - bytes.begin()));
         const std::size_t length = decode_utf8(bytes).length;

@@ -55,6 +55,12 @@ bool is_full_disk(int code, int system_error) {
     return of_file && (system_error == ENOSPC || system_error == EDQUOT);
 }
 
+// The engine counts each allocation under a lock, a count that nobody here reads.
+void stop_counting_memory() {
+    static const int code = sqlite3_config(SQLITE_CONFIG_MEMSTATUS, 0);
+    (void)code; // too late where the engine runs already: then it counts on
+}
+
 std::optional<Store> store_of_file(const std::string& file) {
     return store_of(std::filesystem::path(file).stem().string());
 }
@@ -63,6 +69,7 @@ std::optional<Store> store_of_file(const std::string& file) {
 
 OpenStore::OpenStore(std::string file) : file_(std::move(file)), store_(store_of_file(file_)), gate_(file_) {
     check_file(file_);
+    stop_counting_memory();
     sqlite3* database = nullptr;
     const int code =
         sqlite3_open_v2(file_.c_str(), &database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
