@@ -115,8 +115,11 @@ std::optional<Answer> DesktopDesk::show_message(const widgets::MessageBox& box) 
 }
 
 std::optional<std::string> DesktopDesk::choose_file(const widgets::FileDialog& dialog) {
-    QFileDialog shown(QApplication::activeWindow(), to_qt(dialog.title), to_qt(dialog.folder),
-                      name_filters(dialog.filter));
+    // A told folder of another platform is not there: the person's documents take its place.
+    const QString told = to_qt(dialog.folder);
+    const QString folder =
+        QFileInfo(told).isDir() ? told : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QFileDialog shown(QApplication::activeWindow(), to_qt(dialog.title), folder, name_filters(dialog.filter));
     const bool saves = dialog.kind == widgets::FileDialogKind::save;
     shown.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     shown.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
