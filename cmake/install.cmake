@@ -21,11 +21,15 @@ file(GLOB schemas ${CMAKE_SOURCE_DIR}/share/*.xsd)
 install(FILES ${schemas} DESTINATION ${levora_home})
 install(DIRECTORY share/schema DESTINATION ${levora_home})
 install(FILES share/levora-wealth-tax.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES share/levora-wealth-tax.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+# The file is named as the component that it describes.
+install(FILES share/levora-wealth-tax.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo
+        RENAME example.levora.wealth_tax.metainfo.xml)
 install(FILES share/icons/levora-wealth-tax.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-install(FILES README.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(DIRECTORY docs/ DESTINATION ${CMAKE_INSTALL_DOCDIR})
+# As in the source: README.md names the pages under docs/.
+set(levora_pages ${CMAKE_INSTALL_DATADIR}/doc/levora-wealth-tax)
+install(FILES README.md DESTINATION ${levora_pages})
+install(DIRECTORY docs DESTINATION ${levora_pages})
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME levora-wealth-tax)
