@@ -49,10 +49,8 @@ TEST(LayoutFileTest, AFaultNamesFileLineAndWhatIsWrong) {
         {"an element left open", "<text x=\"1-2\" y=\"3-4\">",
          "321 R.rpt, line 4: Opening and ending tag mismatch: text line 3 and section"},
     };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.why);
-        EXPECT_EQ(fault_of(each.content), each.fault);
-    }
+    for (const Case& each : cases)
+        EXPECT_EQ(fault_of(each.content), each.fault) << each.why;
 }
 
 TEST(LayoutFileTest, ALayoutWithADoctypeIsRefused) {

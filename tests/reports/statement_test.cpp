@@ -12,33 +12,16 @@ TEST_F(ReportsTest, TheStatementShowsTheUnsavedSheetObjectByObject) {
     assets->set_text("9000000");
     click_on_sheet("cmdPreview");
     EXPECT_EQ(filled(previewed()),
-              "Office_Name: Rao & Sons\n"
-              "txtRepFY: F.Y. 2014-2015\n"
-              "Assessee_Name: Asha Rao\n"
-              "Father's Name: Father's Name\n"
-              "Father_Name: K Rao\n"
-              "txtRepAddress1: 12\n"
+              "Office_Name: Rao & Sons\ntxtRepFY: F.Y. 2014-2015\nAssessee_Name: Asha Rao\n"
+              "Father's Name: Father's Name\nFather_Name: K Rao\ntxtRepAddress1: 12\n"
               "txtRepAddress2: MG Road\n" // no comma without a fourth line
               "txtRepCity: Pune\n"        // the city is its district: once, as written there
-              "txtRepPIN: PIN: 411001\n"
-              "Status: Individual\n"
-              "PAN: AAAPR1234C\n"
-              "Ward: Ward 3\n"
-              "Date_of_Birth: 31/05/1960\n"
-              "Sex: Female\n"
-              "txtRepAssetsSec2ea: 9000000\n"
-
-              "txtRepTotalAssets: 9000000\n"
-
-              "txtRepAssetsChargeable: 9000000\n"
-              "txtRepLessDebt: 250000\n"
-              "txtRepNetWealth: 8750000\n"
-              "txtRepNetWealthRounded: 8750000\n"
-              "txtRepTaxableWealth: 5750000\n"
+              "txtRepPIN: PIN: 411001\nStatus: Individual\nPAN: AAAPR1234C\nWard: Ward 3\n"
+              "Date_of_Birth: 31/05/1960\nSex: Female\ntxtRepAssetsSec2ea: 9000000\n"
+              "txtRepTotalAssets: 9000000\ntxtRepAssetsChargeable: 9000000\ntxtRepLessDebt: 250000\n"
+              "txtRepNetWealth: 8750000\ntxtRepNetWealthRounded: 8750000\ntxtRepTaxableWealth: 5750000\n"
               "lblWealthTaxRate: Wealth Tax  @ 1% on Net Wealth in excess of Rs 30,00,000\n"
-              "txtRepWealthTax: 57500\n"
-              "txtRepTaxIntPayable: 57500\n"
-              "txtRepBalance: 57500\n"
+              "txtRepWealthTax: 57500\ntxtRepTaxIntPayable: 57500\ntxtRepBalance: 57500\n"
               "txtRepRefund: 0\n");
     EXPECT_EQ(previewed().caption, "Statement of Wealth Tax Preview - F.Y. 2014-2015");
 }

@@ -26,29 +26,12 @@ TEST_F(FillTest, IndividualComesFromTheMaster) {
     sheet().mskDueDate.set_text("30/09/2014");
     frmFormBA& f = form();
     std::string text;
-    for (const char* name : {"mskAY",
-                             "mskPAN",
-                             "txtFirstName",
-                             "txtMiddleName",
-                             "txtName",
-                             "txtAddress1",
-                             "txtAddress2",
-                             "txtTown",
-                             "mskPin",
-                             "mskPhone",
-                             "mskSTDCode",
-                             "mskMobileNo",
-                             "txtEmail",
-                             "mskDOB",
-                             "txtWard",
-                             "txtVerificationName",
-                             "txtVerificationFather",
-                             "mskVerificationPAN",
-                             "txtVerificationPlace",
-                             "mskVerificationDate",
-                             "mskValuationDate",
-                             "txtMICRCode",
-                             "txtBankAccountNo"})
+    std::istringstream names(
+        "mskAY mskPAN txtFirstName txtMiddleName txtName txtAddress1 txtAddress2 txtTown mskPin mskPhone "
+        "mskSTDCode mskMobileNo txtEmail mskDOB txtWard txtVerificationName txtVerificationFather "
+        "mskVerificationPAN txtVerificationPlace mskVerificationDate mskValuationDate txtMICRCode "
+        "txtBankAccountNo");
+    for (std::string name; names >> name;)
         text += shown(f.find(name)) + "|";
     EXPECT_EQ(text,
               "2014-2015|AAAPL1234C|Asha|M|Rao|12||Pune|411001||020|9800000001|a@b.example|31/05/1960|W "

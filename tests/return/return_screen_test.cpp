@@ -78,8 +78,7 @@ TEST_F(ReturnTest, WantedNetAmountsOfAddedRowsAreTyped) {
 }
 
 struct KeyCase {
-    const char* why;
-    const char* grid;
+    const char *why, *grid;
     int column, row;
     const char* key;
     int then_column, then_row, then_rows;

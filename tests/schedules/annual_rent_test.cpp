@@ -21,9 +21,7 @@ protected:
 
 TEST_F(AnnualRentTest, RepairsAreANinthOfTheRent) {
     struct Case {
-        const char* why;
-        const char* rent;
-        const char* repairs;
+        const char *why, *rent, *repairs;
     };
     constexpr Case cases[] = {
         {"100 / 9 = 11.1", "100", "11"},    {"13 / 9 = 1.44", "13", "1"}, {"14 / 9 = 1.56", "14", "2"},

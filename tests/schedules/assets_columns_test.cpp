@@ -10,8 +10,7 @@ using AssetsColumnsTest = AssetsTest;
 
 TEST_F(AssetsColumnsTest, CountsTypedShowHideAndAddColumns) {
     struct Case {
-        const char* why;
-        const char* typed;
+        const char *why, *typed;
         const char* headers; // hidden ones in brackets
     };
     constexpr Case cases[] = {

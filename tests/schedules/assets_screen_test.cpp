@@ -75,8 +75,7 @@ TEST_F(AssetsScreenTest, OkOfTheMainModeStoresAndWritesTheSheet) {
 TEST_F(AssetsScreenTest, OpensTheTabOfARowAndLeavesItTheOnlyOneEnabled) {
     struct Case {
         const AssetParent& parent;
-        const char* name;
-        const char* tabs;
+        const char *name, *tabs;
     };
     const Case cases[] = {
         {business_parent, "Building", "0: Immovable Property - Business Asset (Building) () () () ()"},
@@ -114,8 +113,7 @@ TEST_F(AssetsScreenTest, OkHandsTheOpenedTabsTotalToTheActiveRowOfItsParent) {
     struct Case {
         const char* why;
         const AssetParent& parent;
-        const char* name;
-        const char* handed;
+        const char *name, *handed;
     };
     const Case cases[] = {
         {"text of the total", business_parent, "Building", "12 rupees"},

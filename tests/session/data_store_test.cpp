@@ -41,8 +41,7 @@ TEST_F(DataStoreTest, RowsComeBackInTheOrderSavedAndNumbersStayNumbers) {
                                 RowSetUse::update);
     EXPECT_TRUE(rows.eof());
     struct Paid {
-        const char* bank;
-        const char* date;
+        const char *bank, *date;
         double amount;
     };
     for (const Paid& each :
@@ -63,9 +62,7 @@ TEST_F(DataStoreTest, RowsComeBackInTheOrderSavedAndNumbersStayNumbers) {
 
 TEST_F(DataStoreTest, ValuesThatDoNotFitAreRefusedByNameAndValue) {
     struct Case {
-        const char* why;
-        const char* table;
-        const char* column;
+        const char *why, *table, *column;
         Value value;
         const char* failure;
     };

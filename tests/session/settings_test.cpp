@@ -101,9 +101,7 @@ TEST_F(SettingsTest, AWriteKeepsCommentsOrderAndAllElse) {
 
 TEST_F(SettingsTest, WhatItCannotWriteSafelyItLeavesAsItWas) {
     struct Case {
-        const char* why;
-        const char* text;
-        const char* value;
+        const char *why, *text, *value;
     };
     constexpr Case cases[] = {
         {"a file that does not read is never overwritten", "[a]\nb = \n", "x"},

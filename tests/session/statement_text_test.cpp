@@ -9,9 +9,7 @@ namespace {
 
 TEST(StatementTextTest, TurnsTheScreensWordsIntoTheEngines) {
     struct Case {
-        const char* why;
-        const char* told;
-        const char* text;
+        const char *why, *told, *text;
     };
     constexpr Case cases[] = {
         {"the asterisk of a delete says nothing", "DELETE * FROM T WHERE A = 1 ;",
@@ -35,10 +33,8 @@ TEST(StatementTextTest, TurnsTheScreensWordsIntoTheEngines) {
         {"a trigger's own statements belong to it", "CREATE TRIGGER t INSERT ON T BEGIN SELECT 1; END;",
          "CREATE TRIGGER t INSERT ON T BEGIN SELECT 1; END;"},
     };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.why);
-        EXPECT_EQ(translate(each.told).in_saved_order(), each.text);
-    }
+    for (const Case& each : cases)
+        EXPECT_EQ(translate(each.told).in_saved_order(), each.text) << each.why;
     EXPECT_EQ(translate("SELECT a FROM [/d/x]y/Assessee.mdb; PWD=p].T").attached.at(0).file,
               "/d/x]y/Assessee.mdb");
     EXPECT_EQ(translate("Select * From T Where Clause='SchBTP'").with_row_number(),
@@ -57,9 +53,7 @@ TEST(StatementTextTest, RefusesASecondStatementAndADateThatIsNone) {
 
 TEST(StatementTextTest, FindsTheFileBehindAConnectString) {
     struct Case {
-        const char* why;
-        const char* told;
-        const char* file;
+        const char *why, *told, *file;
     };
     constexpr Case cases[] = {
         {"the usual", "Provider=P;Data Source=/data/LVWTax.mdb;Jet OLEDB:Database Password=x;",
@@ -69,10 +63,8 @@ TEST(StatementTextTest, FindsTheFileBehindAConnectString) {
         {"a kept separator", "data source=/data\\LVWTax.mdb", "/data/LVWTax.db"},
         {"none", "Provider=P;", ""},
     };
-    for (const Case& each : cases) {
-        SCOPED_TRACE(each.why);
-        EXPECT_EQ(store_file(data_source(each.told)), each.file);
-    }
+    for (const Case& each : cases)
+        EXPECT_EQ(store_file(data_source(each.told)), each.file) << each.why;
 }
 
 } // namespace

@@ -11,8 +11,7 @@ namespace {
 
 TEST(ValueTextTest, ValReadsTheLeadingNumber) {
     struct Case {
-        const char* why;
-        const char* text;
+        const char *why, *text;
         double value;
     };
     constexpr Case cases[] = {
