@@ -84,7 +84,7 @@ constexpr std::array calculators{"gnome-calculator", "kcalc", "galculator", "qal
 
 bool is_calculator(const std::string& told) {
     const std::string name = upper_case(told);
-    return name.find("CALC.EXE") != std::string::npos;
+    return name.find("CALC.EXE") != std::string::npos || name.find("LEVORA CALC") != std::string::npos;
 }
 
 } // namespace

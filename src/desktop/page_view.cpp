@@ -70,6 +70,7 @@ PageView::PageView(QWidget* parent) : QWidget(parent) {
     area_->setFocusPolicy(Qt::NoFocus);
     sheet_ = new Sheet(*this);
     area_->setWidget(sheet_);
+    area_->viewport()->installEventFilter(this);
     layout->addWidget(area_, 1);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Pages"));
@@ -161,9 +162,10 @@ bool PageView::find_next(const QString& text) {
     return true;
 }
 
-void PageView::resizeEvent(QResizeEvent* event) {
-    QWidget::resizeEvent(event);
-    fit();
+bool PageView::eventFilter(QObject* watched, QEvent* event) {
+    // The room for a page is known once the layout has given it.
+    if (watched == area_->viewport() && event->type() == QEvent::Resize) fit();
+    return QWidget::eventFilter(watched, event);
 }
 
 void PageView::keyPressEvent(QKeyEvent* event) {

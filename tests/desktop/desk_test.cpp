@@ -62,6 +62,19 @@ TEST(DesktopDeskTest, AProgramThatIsNotThereIsToldByName) {
     }
 }
 
+TEST(DesktopDeskTest, AnAbsentCalculatorIsToldWithThoseThatWouldDo) {
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", "/nowhere");
+    for (const char* told : {"CALC.EXE", "C:\\Levora\\Levora Calc.exe"})
+        try {
+            DesktopDesk().start_program(told, widgets::ProgramWindow::normal);
+            ADD_FAILURE() << told << " started";
+        } catch (const Failure& failure) {
+            EXPECT_NE(std::string(failure.what()).find("gnome-calculator"), std::string::npos) << told;
+        }
+    qputenv("PATH", path);
+}
+
 TEST(KeyNamesTest, KeysHaveTheNamesThatScreensKnow) {
     struct Case {
         int key;

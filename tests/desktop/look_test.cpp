@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QPainter>
 #include <QPalette>
+#include <QScrollArea>
 
 namespace levora::desktop {
 
@@ -50,6 +52,20 @@ TEST(PageViewTest, PagesTurnWithinTheirCountAndASearchGoesRound) {
     EXPECT_TRUE(view.find_next(QStringLiteral("tax")));
     EXPECT_EQ(view.page(), 1);
     EXPECT_FALSE(view.find_next(QStringLiteral("wealth")));
+}
+
+TEST(PageViewTest, AWholePageFillsTheRoomAlsoWhenItWasGivenBeforeTheWindowCameUp) {
+    PageView view;
+    PageSource source;
+    source.count = 1;
+    source.size = QSizeF(210, 297);
+    source.paint = [](QPainter&, int, double) {};
+    view.show_pages(source);
+    view.resize(900, 700);
+    view.show();
+    QApplication::processEvents();
+    auto* area = view.findChild<QScrollArea*>();
+    EXPECT_NEAR(area->widget()->height(), area->viewport()->height(), 2);
 }
 
 } // namespace levora::desktop
