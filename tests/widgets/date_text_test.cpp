@@ -33,6 +33,9 @@ TEST(DateTextTest, ReadsDayFirstAndRefusesWhatTheCalendarLacks) {
         {"15/09/201_", ""},
         {"", ""},
     };
+    for (const char* broken_off : {"15", "15/", "15/09", "15/09/", "15/x/2014", "15x09/2014", "2014-",
+                                   "2014-09", "2014-x-05", "2014-09-05x", "2014-13-01", "0000-01-01"})
+        EXPECT_FALSE(parse_date(broken_off)) << broken_off;
     for (const Case& each : cases) {
         const auto date = parse_date(each.text);
         EXPECT_EQ(date ? iso_date(*date) : "", each.iso) << each.text;

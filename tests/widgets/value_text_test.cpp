@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <string>
 
 using namespace levora;
 
@@ -33,17 +34,25 @@ TEST(ValueTextTest, ValReadsTheLeadingNumber) {
         {"what follows is left", "12 Rs", 12},
         {"a percentage", "20%", 20},
         {"too small for a double", "1e-400", 0},
+        {"nothing, however often", "0e400", 0},
+        {"an exponent by its other letter", "2d3", 2000},
+        {"an exponent with a plus", "1E+2", 100},
+        {"tabs and line ends are blanks", "\t1\n2\r", 12},
     };
     for (const Case& each : cases)
         EXPECT_EQ(val(each.text), each.value) << each.why;
     EXPECT_THROW(val("1e400"), Failure);
+    EXPECT_THROW(val(std::string(400, '9')), Failure);
+    EXPECT_EQ(val("0." + std::string(400, '0') + "1"), 0);
 }
 
 TEST(ValueTextTest, StrictConversionTakesTheWholeTextOrNothing) {
     EXPECT_EQ(strict_number(" 1234.50 "), 1234.5);
     EXPECT_EQ(strict_number("12,34,567"), 1234567);
     EXPECT_EQ(strict_number("1e3"), 1000);
-    for (const char* text : {"", "abc", "12a", "1,", ",1", "1..2", "-", "1 2", "--1", "1e"})
+    EXPECT_EQ(strict_number("-2E-1"), -0.2);
+    EXPECT_EQ(strict_number("+.5"), 0.5);
+    for (const char* text : {"", "abc", "12a", "1,", ",1", "1..2", "-", "1 2", "--1", "1e", "1e2x", "1.5,0"})
         EXPECT_FALSE(strict_number(text)) << text;
     try {
         to_double("12a");
@@ -88,6 +97,7 @@ TEST(ValueTextTest, RoundsByTheNamedRule) {
     EXPECT_EQ(round_half_away(-2.5, 0), -3);
     EXPECT_EQ(number_text(round_half_away(1.005, 2)), "1.01"); // as its text reads, not as it is held
     EXPECT_EQ(number_text(round_half_away(-9.995, 2)), "-10");
+    EXPECT_EQ(number_text(round_half_away(99.995, 2)), "100");
     EXPECT_EQ(number_text(round_half_away(12.34, 2)), "12.34");
 }
 
@@ -97,7 +107,8 @@ TEST(ValueTextTest, WholeNumbersOverflowInsteadOfWrapping) {
     EXPECT_EQ(to_integer(32767.4), 32767);
     EXPECT_EQ(to_integer("2.5"), 2);
     for (const auto overflows : {+[] { (void)to_long(2147483647.5); }, +[] { (void)to_integer(32767.5); },
-                                 +[] { (void)to_long("1e300"); }}) {
+                                 +[] { (void)to_long("1e300"); }, +[] { (void)to_long(-2147483649.0); },
+                                 +[] { (void)to_integer(-32769.0); }}) {
         try {
             overflows();
             FAIL() << "no overflow";
@@ -115,6 +126,7 @@ TEST(ValueTextTest, GroupsByLakhAndCrore) {
     EXPECT_EQ(group_indian(-100000), "-1,00,000");
     EXPECT_EQ(group_indian(4412348.75, 2), "44,12,348.75");
     EXPECT_EQ(group_indian(1.5, 2), "1.50");
+    EXPECT_EQ(group_indian(100000, 2), "1,00,000.00");
     EXPECT_EQ(group_indian_text("100000.25"), "1,00,000.25");
 }
 
