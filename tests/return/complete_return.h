@@ -3,6 +3,7 @@
 #include "return/return_screen.h"
 
 #include <initializer_list>
+#include <utility>
 
 namespace levora::form_ba::testing {
 
@@ -13,42 +14,35 @@ inline void type_row(widgets::Grid& grid, int row, std::initializer_list<const c
     }
 }
 
+// Each field by its name: a list is chosen from, everything else typed.
+inline void type_fields(frmFormBA& f, std::initializer_list<std::pair<const char*, const char*>> texts) {
+    for (const auto& [name, text] : texts) {
+        widgets::Control* const field = f.find(name);
+        if (auto* list = dynamic_cast<widgets::ListField*>(field)) list->choose(text);
+        if (auto* mask = dynamic_cast<widgets::MaskedField*>(field)) mask->type(text);
+        if (auto* line = dynamic_cast<widgets::TextField*>(field)) line->type(text);
+    }
+}
+
 // A return that uses every field and every schedule, as a person would type it, and that can be filed.
 inline void type_complete_return(frmFormBA& f) {
-    f.mskPAN.type("AAAPL1234C");
-    f.txtFirstName.type("Asha");
-    f.txtMiddleName.type("M");
-    f.txtName.type("Rao & Sons");
-    f.txtAddress1.type("12");
-    f.txtAddress2.type("Caf\u00E9 Tower");
-    f.txtAddress3.type("MG Road");
-    f.txtAddress4.type("Camp");
-    f.txtTown.type("Pune");
-    f.cboState.choose("MAHARASHTRA");
-    f.cboCountry.choose("INDIA");
-    f.mskPin.type("411001");
-    f.mskSTDCode.type("020");
-    f.mskPhone.type("26100000");
-    f.mskMobileNo.type("9800000001");
-    f.txtEmail.type("asha@rao.example");
-    f.mskDOB.type("31/05/1960");
-    f.cboSex.choose("Female");
-    f.cboStatus.choose("Individual");
-    f.cboResStatus.choose("R-NOR");
-    f.txtWard.type("W 1");
-    f.mskValuationDate.type("31/03/2014");
-    f.cboCitizen.choose("Yes");
-    f.cboReturnType.choose("Revised");
+    // clang-format off
+    type_fields(f, {
+        {"mskPAN", "AAAPL1234C"}, {"txtFirstName", "Asha"}, {"txtMiddleName", "M"},
+        {"txtName", "Rao & Sons"}, {"txtAddress1", "12"}, {"txtAddress2", "Caf\u00E9 Tower"},
+        {"txtAddress3", "MG Road"}, {"txtAddress4", "Camp"}, {"txtTown", "Pune"},
+        {"cboState", "MAHARASHTRA"}, {"cboCountry", "INDIA"}, {"mskPin", "411001"}, {"mskSTDCode", "020"},
+        {"mskPhone", "26100000"}, {"mskMobileNo", "9800000001"}, {"txtEmail", "asha@rao.example"},
+        {"mskDOB", "31/05/1960"}, {"cboSex", "Female"}, {"cboStatus", "Individual"},
+        {"cboResStatus", "R-NOR"}, {"txtWard", "W 1"}, {"mskValuationDate", "31/03/2014"},
+        {"cboCitizen", "Yes"}, {"cboReturnType", "Revised"}, {"txtReceiptNo", "R/77"},
+        {"mskOriFillDate", "15/07/2014"}, {"txtReprName", "K Rao"}, {"txtReprAddress", "Nagpur"},
+        {"mskReprPAN", "AAAPK1234D"}, {"cboApplicableSec", "21AA(1)"}});
+    // clang-format on
     f.cboReturnCode.choose(2);
-    f.txtReceiptNo.type("R/77");
-    f.mskOriFillDate.type("15/07/2014");
     f.chkFirstReturnNo.click();
     f.chkAssessedToITYes.click();
     f.ChkCapacityReprYes.click();
-    f.txtReprName.type("K Rao");
-    f.txtReprAddress.type("Nagpur");
-    f.mskReprPAN.type("AAAPK1234D");
-    f.cboApplicableSec.choose("21AA(1)");
     type_row(f.sprScheduleBTP, 1, {"0123456", "15/07/2014", "00123", "1000.5"});
     type_row(f.sprScheduleBTP, 2, {"6543210", "16/07/2014", "7", "200"});
     type_row(f.sprImmovableProperty, 1,
@@ -73,24 +67,16 @@ inline void type_complete_return(frmFormBA& f) {
     type_row(
         f.sprScheduleOPR, 2,
         {"AgriculturalLand", "10", "Farm", "3C", "", "", "", "Karad", "Telangana", "", "415110", "44/2"});
-    f.txtMovTotalDeposit.type("11");
-    f.txtMovAmtBondInvestment.type("12");
-    f.txtMovAmtPostal.type("13");
-    f.txtMovAmtFirm.type("14");
-    f.txtMovAmtOther.type("15");
-    f.txtTotalLiabilityOtherProp.type("5");
-    f.txtNetWealthTax.type("1500");
-    f.txtLateFilingInterest.type("30");
-    f.txtBankAccountNo.type("77");
-    f.txtMICRCode.type("ABCD0123456");
-    f.cboAccountType.choose("Saving");
-    f.cboAudited.choose("30th September");
-    f.txtVerificationName.type("Asha Rao");
-    f.txtVerificationFather.type("K Rao");
-    f.mskVerificationPAN.type("AAAPL1234C");
-    f.txtVerificationCapacity.type("Self");
-    f.txtVerificationPlace.type("Pune");
-    f.mskVerificationDate.type("20/08/2014");
+    // clang-format off
+    type_fields(f, {
+        {"txtMovTotalDeposit", "11"}, {"txtMovAmtBondInvestment", "12"}, {"txtMovAmtPostal", "13"},
+        {"txtMovAmtFirm", "14"}, {"txtMovAmtOther", "15"}, {"txtTotalLiabilityOtherProp", "5"},
+        {"txtNetWealthTax", "1500"}, {"txtLateFilingInterest", "30"}, {"txtBankAccountNo", "77"},
+        {"txtMICRCode", "ABCD0123456"}, {"cboAccountType", "Saving"}, {"cboAudited", "30th September"},
+        {"txtVerificationName", "Asha Rao"}, {"txtVerificationFather", "K Rao"},
+        {"mskVerificationPAN", "AAAPL1234C"}, {"txtVerificationCapacity", "Self"},
+        {"txtVerificationPlace", "Pune"}, {"mskVerificationDate", "20/08/2014"}});
+    // clang-format on
 }
 
 } // namespace levora::form_ba::testing

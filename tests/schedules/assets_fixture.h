@@ -2,11 +2,11 @@
 
 #include "schedules/asset_opening.h"
 #include "schedules/assets_screen.h"
+#include "session/data_folder.h"
 #include "widgets/headless_desk.h"
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -56,9 +56,8 @@ private:
 class AssetsTest : public testing::Test {
 protected:
     AssetsTest() {
-        session::create_store(folder(), session::Store::tax);
         session.DataFolder = folder();
-        session.TaxDb.open("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + folder() + "LVWTax.mdb");
+        session.TaxDb.open(folder_.connect_string(session::Store::tax));
         session.AssesseeNo = 17;
         session.CurrentFY = "2014-2015";
         screens.define("frmImmovable", [this] { return std::make_unique<frmImmovable>(session); });
@@ -71,7 +70,7 @@ protected:
         };
     }
 
-    std::string folder() { return folder_.path.string() + "/"; }
+    std::string folder() { return folder_.path() + "/"; }
 
     // The screen; loaded in the mode that the session's flags name.
     frmImmovable& assets() { return screens.get<frmImmovable>("frmImmovable"); }
@@ -122,8 +121,7 @@ protected:
     // All rows of a select, a line each, a Null as "null".
     std::string stored(const std::string& select) {
         std::string all;
-        const auto result = session::run_statement(folder(), session::Store::tax, select);
-        for (const auto& row : result.rows) {
+        for (const auto& row : folder_.run(session::Store::tax, select).rows) {
             std::string line;
             for (const session::Value& value : row)
                 line += (line.empty() ? "" : "|") + (value.is_null() ? "null" : value.text());
@@ -131,20 +129,10 @@ protected:
         }
         return all;
     }
-    void store(const std::string& statement) {
-        session::run_statement(folder(), session::Store::tax, statement);
-    }
+    void store(const std::string& statement) { folder_.run(session::Store::tax, statement); }
 
 private:
-    struct Folder {
-        Folder() {
-            std::string pattern = (std::filesystem::temp_directory_path() / "levora-assets-XXXXXX").string();
-            path = mkdtemp(pattern.data());
-        }
-        ~Folder() { std::filesystem::remove_all(path); }
-        std::filesystem::path path;
-    };
-    Folder folder_;
+    session::testing::DataFolder folder_;
 
 protected:
     PaperlessDesk desk;
