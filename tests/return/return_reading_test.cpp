@@ -196,6 +196,10 @@ const FieldCase field_cases[] = {
     {"deposits come as they are written",
      "<FBAMain:SchOtherProperties><FBAMain:DepositBank>1x</FBAMain:DepositBank></FBAMain:SchOtherProperties>",
      "txtMovTotalDeposit", "1x"},
+    {"a text in pieces is one",
+     "<FBAMain:SchOtherProperties><FBAMain:DepositBank>1<![CDATA[<2>]]>&amp;<!-- 9 -->3"
+     "</FBAMain:DepositBank></FBAMain:SchOtherProperties>",
+     "txtMovTotalDeposit", "1<2>&3"},
     {"bonds through the reading of numbers",
      "<FBAMain:SchOtherProperties><FBAMain:InvestBond>1x</FBAMain:InvestBond></FBAMain:SchOtherProperties>",
      "txtMovAmtBondInvestment", "1"},

@@ -7,9 +7,11 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <fstream>
 
 #include <sqlite3.h>
+#include <sys/resource.h>
 
 namespace levora::session {
 namespace {
@@ -117,6 +119,26 @@ TEST_F(FolderCareTest, ADamagedBackupRestoresNothing) {
     const std::string restored = elsewhere.path() + "/new";
     EXPECT_NE(failure_of([&] { restore_folder(file, restored); }), "none");
     EXPECT_FALSE(std::filesystem::exists(restored + "/LVWTax.db"));
+}
+
+TEST_F(FolderCareTest, ARestoreOntoAFullDiskTakesBackWhatItWrote) {
+    back_up_folder(folder.path(), file);
+    const auto largest = std::filesystem::file_size(folder.file(Store::tax)); // the last one written
+    const std::string restored = elsewhere.path() + "/new";
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit tight{largest - 1, before.rlim_max};
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &tight);
+    const std::string failure = failure_of([&] { restore_folder(file, restored); });
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, handler);
+    EXPECT_NE(failure.find("LVWTax.db: "), std::string::npos) << failure;
+    EXPECT_FALSE(std::filesystem::exists(restored + "/Assessee.db"));
+    EXPECT_FALSE(std::filesystem::exists(restored + "/LVWTax.db"));
+    EXPECT_FALSE(std::filesystem::exists(restored + "/ITR/WT 17 2014-2015R"));
+    restore_folder(file, restored);
+    EXPECT_EQ(find_faults(restored).size(), 0U);
 }
 
 TEST_F(FolderCareTest, OneClientMovesToAnotherFolderWithNumbersOfItsOwnThere) {

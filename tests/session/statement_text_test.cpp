@@ -28,6 +28,8 @@ TEST(StatementTextTest, TurnsTheScreensWordsIntoTheEngines) {
         {"nor have groups", "SELECT a FROM T GROUP BY a", "SELECT a FROM T GROUP BY a"},
         {"a comment is no statement", "SELECT a FROM T; -- #1/1/2014#",
          "SELECT a FROM T ORDER BY rowid; -- #1/1/2014#"},
+        {"a comment hides what stands in it", "SELECT a /* ; [b] */ FROM T /* open",
+         "SELECT a /* ; [b] */ FROM T ORDER BY rowid /* open"},
         {"another folder's file", "SELECT a FROM [/d/x]y/Assessee.mdb; PWD=p].AssesseeInfo where a=1 ",
          "SELECT a FROM other_store_1.AssesseeInfo where a=1 ORDER BY rowid "},
         {"a trigger's own statements belong to it", "CREATE TRIGGER t INSERT ON T BEGIN SELECT 1; END;",
@@ -49,6 +51,8 @@ TEST(StatementTextTest, RefusesASecondStatementAndADateThatIsNone) {
               "1 Characters found after end of statement: DROP");
     EXPECT_EQ(testing::failure_of([] { translate("SELECT a FROM T WHERE d = #02/30/2014#"); }),
               "1 Syntax error in date in statement: #02/30/2014#");
+    EXPECT_EQ(testing::failure_of([] { translate(std::string_view("DELETE FROM T\0x", 15)); }),
+              "1 The statement holds a NUL character");
 }
 
 TEST(StatementTextTest, FindsTheFileBehindAConnectString) {
