@@ -315,6 +315,13 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyPress:
         if (key_pressed(*static_cast<QKeyEvent*>(event), watched)) return true;
         break;
+    case QEvent::ShortcutOverride: {
+        // Undo is the window's, over all its fields: a field of text would keep it to itself.
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (!key->matches(QKeySequence::Undo) && !key->matches(QKeySequence::Redo)) break;
+        event->ignore();
+        return true;
+    }
     case QEvent::FocusIn:
         focus_came(*control, watched, static_cast<QFocusEvent*>(event)->reason());
         break;

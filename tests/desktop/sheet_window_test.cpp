@@ -84,6 +84,17 @@ TEST_F(SheetWindowTest, UndoTakesARunOfTypingBackAtOnceAndRedoDoesItAgain) {
     EXPECT_EQ(field("txtLessDebt").text(), "500");
 }
 
+TEST_F(SheetWindowTest, TheUndoKeyReachesBeyondTheFieldInFocus) {
+    line("txtLessDebt").setFocus();
+    QTest::keyClicks(&line("txtLessDebt"), "500");
+    key(line("txtLessDebt"), Qt::Key_Tab);
+    line("txtInterest").setFocus();
+    key(line("txtInterest"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(field("txtLessDebt").text(), "");
+    key(line("txtInterest"), Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(text("txtLessDebt"), "500");
+}
+
 TEST_F(SheetWindowTest, UndoLeavesAFigureAloneThatHasChangedSince) {
     line("txtLessDebt").setFocus();
     QTest::keyClicks(&line("txtLessDebt"), "500");
