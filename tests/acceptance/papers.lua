@@ -49,10 +49,9 @@ local forms = [[Software\Meridew Data Works\Levora Forms]]
 same(registry(forms, "Challan282 Top Margin") or "", "", "forgotten unless OK was pressed")
 challan.cmdPrint:click()
 frmPrint.cmdPrint:click()
-same(#printed(), 0, "a cancelled printer")
-messages()
+same(#printed() .. tostring(frmPrint.loaded) .. boxes(), "0false", "a cancelled printer closes without a word")
 
--- Form BB and the sheets of its grids.
+-- Form BB.
 sheet.cmdformBA:click()
 local form = frmFormBA
 form.sprJewellery:type(1, 1, "Ring")
@@ -65,9 +64,4 @@ same(report.papersize .. "|" .. report.orientation, "A4|portrait")
 same(report:rows("SchJE")[1].Col5, "Annexure 1")
 same(report:rows("SchJE")[2].Col5, nil)
 same(report:suppressed(10), false)
-form.sprImmovableProperty:type(12, 1, "500")
-form.mnuPrintSheet:click()
-local shown = sheets()
-same(#shown .. "|" .. shown[1].grid .. "|" .. shown[1].footer, '1|sprImmovableProperty|/fz"9"/fb1/rTotal: 500')
-same(shown[1].header:sub(1, 42), "/n /n Assessee Name : Anand  Rao/n /n A. Y")
 finish()

@@ -89,14 +89,6 @@ TEST_F(PrintDialogTest, PrintingForgetsTheMarginsTypedForIt) {
     EXPECT_EQ(kept(), "6|4|1|none|8");
 }
 
-TEST_F(PrintDialogTest, ACancelledPrinterChoiceClosesTheDialogWithoutAWord) {
-    challan().cmdPrint.click();
-    dialog().cmdPrint.click();
-    EXPECT_TRUE(closed());
-    EXPECT_TRUE(printed.empty());
-    EXPECT_EQ(boxes(), "");
-}
-
 TEST_F(PrintDialogTest, MoreCopiesThanANumberHoldsAreReported) {
     challan().cmdPrint.click();
     dialog().txtNoCopies.type("40000");

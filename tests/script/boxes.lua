@@ -1,9 +1,5 @@
 -- Boxes and dialogs: queued answers, what dismissing counts as, what is recorded.
-local function raises(pattern, call, ...)
-    local fine, message = pcall(call, ...)
-    assert(not fine, "no error: " .. pattern)
-    assert(message:find(pattern, 1, true), message)
-end
+dofile((arg[0]:match("^.*/") or "") .. "raises.lua")
 
 today("2014-09-15")
 assert(start("2014-2015 17 Individual x 0"))

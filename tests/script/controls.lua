@@ -1,9 +1,5 @@
 -- Each kind of control: what is read, what a person does, what an assignment does.
-local function raises(pattern, call, ...)
-    local fine, message = pcall(call, ...)
-    assert(not fine, "no error: " .. pattern)
-    assert(message:find(pattern, 1, true), message)
-end
+dofile((arg[0]:match("^.*/") or "") .. "raises.lua")
 
 today("2014-09-16")
 store("Assessee", [[INSERT INTO AICustomisedItems (ItemGroup, Item, OtherInfo1, SrNo) VALUES ('Bank', 'First Bank', '0001', 1)]])

@@ -1,9 +1,5 @@
 -- Grids: columns first, from 1; headers at 0.
-local function raises(pattern, call, ...)
-    local fine, message = pcall(call, ...)
-    assert(not fine, "no error: " .. pattern)
-    assert(message:find(pattern, 1, true), message)
-end
+dofile((arg[0]:match("^.*/") or "") .. "raises.lua")
 
 assert(start("2014-2015 17 Individual x 0"))
 local paid = frmWealthMain.sprSATax

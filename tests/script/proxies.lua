@@ -1,9 +1,5 @@
 -- Screens and controls are found by name at each use.
-local function raises(pattern, call, ...)
-    local fine, message = pcall(call, ...)
-    assert(not fine, "no error: " .. pattern)
-    assert(message:find(pattern, 1, true), message)
-end
+dofile((arg[0]:match("^.*/") or "") .. "raises.lua")
 
 assert(tostring(frmChallan282) == "frmChallan282" and not frmChallan282.loaded)
 assert(frmChallan282.visible == false)

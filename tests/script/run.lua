@@ -1,11 +1,7 @@
 -- The run: starting, ending, dates, settings, stores.
 local shared = [[Software\Meridew Data Works\Shared]]
 
-local function raises(pattern, call, ...)
-    local fine, message = pcall(call, ...)
-    assert(not fine, "no error: " .. pattern)
-    assert(message:find(pattern, 1, true), message)
-end
+dofile((arg[0]:match("^.*/") or "") .. "raises.lua")
 
 -- dates
 today("2014-09-15")
