@@ -39,7 +39,7 @@ void assets(Person& person) {
     person.type_cell("sprImmovable", 2, 28, "140000");
     person.expect_cell("sprImmovable", 2, 29, "70,00,000");
     person.expect("txtImmovableNetAmount", "7000000");
-    person.picture("property");
+    person.picture("frmImmovable");
     person.choose_tab("SSTabAsset", 1);
     person.picture("urban_land");
     person.choose_tab("SSTabAsset", 2);
@@ -61,7 +61,7 @@ void assets(Person& person) {
     person.click("btnOK");
     person.expect_cell("sprJewellary", 2, 6, "85,000");
     person.expect("txtTotalNetAmount", "9290000");
-    person.picture("jewellery");
+    person.picture("frmImmovable_jewellery");
     person.click("cmdOK");
     person.await_screen("frmWealthMain");
     person.expect("txtAssetsSec2ea", "9290000");
@@ -114,7 +114,7 @@ void preview(Person& person, const char* name) {
 }
 
 void papers(Person& person, const QString& xml) {
-    preview(person, "statement_of_wealth");
+    preview(person, "frmRepPreview");
     person.await_screen("frmWealthMain");
     person.click("cmdformBA");
     person.await_screen("frmFormBA");
