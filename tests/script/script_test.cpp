@@ -19,10 +19,11 @@ struct Ending {
 // Runs levora-wealth-script with a data folder, settings and a program folder of its own.
 class ScriptTest : public testing::Test {
 protected:
-    Ending run(const std::string& words) {
-        const std::string command = LEVORA_BIN "/levora-wealth-script --settings " + data_.path() +
-                                    "/settings.toml --data " + data_.path() + "/ --program-folder " +
-                                    data_.path() + " " + words + " 2>&1";
+    Ending run(const std::string& words) { return run(words, data_.path()); }
+    static Ending run(const std::string& words, const std::string& folder) {
+        const std::string command = LEVORA_BIN "/levora-wealth-script --settings " + folder +
+                                    "/settings.toml --data " + folder + "/ --program-folder " + folder + " " +
+                                    words + " 2>&1";
         Ending ending;
         FILE* pipe = popen(command.c_str(), "r");
         if (!pipe) return ending;
@@ -38,28 +39,16 @@ protected:
         std::ofstream(data_.path() + "/case.lua") << lines;
         return data_.path() + "/case.lua";
     }
-    void passes(const std::string& name) {
-        const Ending ending = run(LEVORA_SCRIPTS "/" + name + ".lua");
-        EXPECT_EQ(ending.status, 0) << ending.output;
-    }
 
     levora::session::testing::DataFolder data_;
 };
 
-TEST_F(ScriptTest, TheRunItself) {
-    passes("run");
-}
-TEST_F(ScriptTest, EveryKindOfControl) {
-    passes("controls");
-}
-TEST_F(ScriptTest, Grids) {
-    passes("grids");
-}
-TEST_F(ScriptTest, BoxesDialogsAndTheirAnswers) {
-    passes("boxes");
-}
-TEST_F(ScriptTest, ProxiesOverReloadsAndEnds) {
-    passes("proxies");
+TEST_F(ScriptTest, ScriptsOfTheRunControlsGridsBoxesAndProxiesPass) {
+    for (const char* name : {"run", "controls", "grids", "boxes", "proxies"}) {
+        const levora::session::testing::DataFolder folder;
+        const Ending ending = run(LEVORA_SCRIPTS "/" + std::string(name) + ".lua", folder.path());
+        EXPECT_EQ(ending.status, 0) << name << ": " << ending.output;
+    }
 }
 
 TEST_F(ScriptTest, EndsWithTheStatusOfItsKind) {
