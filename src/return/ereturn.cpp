@@ -89,7 +89,13 @@ std::string eReturn::PopTag() {
 }
 
 void eReturn::save(const std::string& path) const {
-    write_whole_file(path, to_windows_1252(text_));
+    try {
+        write_whole_file(path, to_windows_1252(text_));
+    } catch (const Failure&) { // a file that could not be had has taken no tag
+        session_.XmlIndent = indent_before_;
+        session_.XmlTagTop = top_before_;
+        throw;
+    }
 }
 
 } // namespace levora::form_ba

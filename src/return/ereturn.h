@@ -2,6 +2,7 @@
 
 #include "session/session_state.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -17,7 +18,8 @@ std::string working_copy_path(const session::Session& session);
 // the first one left it.
 class eReturn {
 public:
-    explicit eReturn(session::Session& session) : session_(session) {}
+    explicit eReturn(session::Session& session)
+        : session_(session), indent_before_(session.XmlIndent), top_before_(session.XmlTagTop) {}
 
     // Writes the start tag, moves the indentation on by 2 and pushes the tag.
     void OpenTag(std::string_view tag);
@@ -33,7 +35,7 @@ public:
     [[nodiscard]] const std::string& text() const { return text_; }
     // Puts the document into a file in Windows-1252; "?" stands for what that lacks. The file is
     // written beside its place and renamed into it, so a failure (52, 61, 70, 75, 76) leaves an old
-    // file as it was.
+    // file as it was; the next document then starts where this one did.
     void save(const std::string& path) const;
 
 private:
@@ -42,6 +44,8 @@ private:
     void indented(std::string_view line);
 
     session::Session& session_;
+    std::int16_t indent_before_;
+    std::int32_t top_before_;
     std::string text_;
 };
 

@@ -36,6 +36,9 @@ local function read(path)
     return all
 end
 form.txtName:type("Rao & Sons")
+choose_file(data_folder() .. "/no/out.xml")
+form.btnGenerate:click()
+same(boxes() .. #dialogs(), "That path doesn't exist.1")
 choose_file(data_folder() .. "/out.xml")
 form.btnGenerate:click()
 local dialog = dialogs()[1]
@@ -45,6 +48,7 @@ local box = messages()[1]
 same(box.title .. "|" .. box.text, "Levora Wealth Tax|XML File Genarated Successfully in  " .. data_folder() .. "/out.xml")
 local xml = read(data_folder() .. "/out.xml")
 local function has(text) same(xml:find(text, 1, true) ~= nil, true, text) end
+has("\n  <FormBA:FormBA>\n") -- at the margin: the file that could not be had took no tag
 has("<FBAMain:SurName>Rao And Sons</FBAMain:SurName>")
 has("<FBAMain:DateOfBirth>1960-02-29</FBAMain:DateOfBirth>")
 has("<FormCommon:State>19</FormCommon:State>")
