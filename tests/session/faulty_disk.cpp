@@ -28,6 +28,9 @@ struct Disk {
     int allocations = 0;
     bool failed = false;
 
+    // Closing a file that was read here gives up this program's locks on it, so contents are only
+    // followed where a power cut is tried, and no second program is about.
+    bool follows_contents = false;
     std::map<std::string, std::string> synced;  // content of each file at its last sync
     std::map<std::string, std::string> deleted; // files whose folder was not synced since
 };
@@ -84,7 +87,7 @@ int truncate_file(sqlite3_file* file, sqlite3_int64 size) {
 }
 int sync_file(sqlite3_file* file, int flags) {
     if (meet(SQLITE_IOERR_FSYNC)) return SQLITE_IOERR_FSYNC;
-    disk().synced[*of(file)->path] = content_of(*of(file)->path);
+    if (disk().follows_contents) disk().synced[*of(file)->path] = content_of(*of(file)->path);
     (void)flags; // the machine itself stays up: the content kept here stands in for the platter
     return SQLITE_OK;
 }
@@ -135,7 +138,7 @@ int open_file(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int
     const std::string path = name ? name : "";
     // What stood there before this program was on the platter; a new file's name may survive alone.
     if (makes) d.deleted.erase(path);
-    d.synced.try_emplace(path, makes ? std::string() : content_of(path));
+    if (d.follows_contents) d.synced.try_emplace(path, makes ? std::string() : content_of(path));
     of(file)->real = inner;
     of(file)->path = new std::string(path);
     file->pMethods = &methods;
@@ -217,6 +220,7 @@ void FaultyDisk::fail_allocation_at(int n) {
 }
 
 void FaultyDisk::mend() {
+    disk().follows_contents = false;
     disk().fail_at = 0;
     disk().fail_allocation_at = 0;
 }
@@ -233,9 +237,10 @@ bool FaultyDisk::has_failed() {
     return disk().failed;
 }
 
-void FaultyDisk::forget_files() {
+void FaultyDisk::follow_files() {
     disk().synced.clear();
     disk().deleted.clear();
+    disk().follows_contents = true;
 }
 
 void FaultyDisk::leave_after_power_cut(const std::string& folder, unsigned seed) {
@@ -255,7 +260,8 @@ void FaultyDisk::leave_after_power_cut(const std::string& folder, unsigned seed)
     for (const auto& [path, synced] : disk().deleted)
         if (path.starts_with(folder) && random() % 2 == 0 && !std::filesystem::exists(path))
             std::ofstream(path, std::ios::binary) << synced;
-    forget_files();
+    disk().synced.clear();
+    disk().deleted.clear();
 }
 
 } // namespace levora::session::testing

@@ -26,7 +26,7 @@ public:
 
     // What a power cut leaves of a folder's files: what was synced is there; of what was written
     // later, each sector is or is not, as the seed has it.
-    static void forget_files();
+    static void follow_files(); // before the stores are opened
     static void leave_after_power_cut(const std::string& folder, unsigned seed);
 };
 

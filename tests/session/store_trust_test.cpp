@@ -208,7 +208,7 @@ TEST_F(StoreTrustTest, APowerCutAtAnyPointLeavesTheOldRowsOrTheNew) {
         for (unsigned seed = 0; seed < 4; ++seed) {
             const int old_figure = figure_in(folder, 1);
             ++figure;
-            FaultyDisk::forget_files();
+            FaultyDisk::follow_files();
             {
                 Program program(folder);
                 FaultyDisk::fail_at(n, FaultyDisk::Fault::power_cut, FaultyDisk::Lasting::from_then_on);
