@@ -3,11 +3,11 @@
 #include "desktop/desktop_desk.h"
 #include "desktop/windows.h"
 #include "program/program.h"
+#include "program/run_places.h"
 #include "session/settings.h"
 
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 
 namespace levora::paper {
@@ -16,10 +16,7 @@ class Pages;
 
 namespace levora::desktop {
 
-struct RunOptions {
-    std::string settings_path;
-    std::string program_folder;
-    std::optional<std::string> data_folder;
+struct RunOptions : program::RunPlaces {
     std::string command_line;
 };
 

@@ -6,8 +6,8 @@
 #include <QIcon>
 
 #include <cstdlib>
-#include <filesystem>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,11 +19,9 @@ using namespace levora;
 constexpr int wrong_call = 2;
 constexpr int no_display = 1;
 
-constexpr std::string_view usage =
-    "usage: levora-wealth-tax [options] YEAR ASSESSEE [STATUS [WORD [ADDRESS]]]\n"
-    "  --settings FILE          the settings file (default: the user's own)\n"
-    "  --data FOLDER            the data folder, for this run only\n"
-    "  --program-folder FOLDER  the program's own folder (default: where this program lies)\n"
+constexpr std::string_view call =
+    "usage: levora-wealth-tax [options] YEAR ASSESSEE [STATUS [WORD [ADDRESS]]]\n";
+constexpr std::string_view own_usage =
     "  --palette light|dark     the palette (default: as the desktop has it)\n"
     "YEAR is the assessment year, such as 2014-2015; ASSESSEE the number of the assessee.\n";
 
@@ -32,28 +30,16 @@ struct CommandLine {
     desktop::Shade shade = desktop::Shade::system;
 };
 
-std::string own_folder() {
-    std::error_code error;
-    const std::filesystem::path own = std::filesystem::read_symlink("/proc/self/exe", error);
-    return error ? std::filesystem::current_path().string() : own.parent_path().string();
-}
-
 // Options of our own come first; all words behind them are the program's command line.
 std::optional<std::string> read_command_line(const std::vector<std::string>& words, CommandLine& line) {
-    line.run.settings_path = session::Settings::default_path();
-    line.run.program_folder = own_folder();
+    static_cast<program::RunPlaces&>(line.run) = program::own_places();
     std::size_t at = 0;
     for (; at < words.size() && words[at].starts_with("--"); at += 2) {
         const std::string& option = words[at];
         if (at + 1 == words.size()) return option + " needs a value";
         const std::string& value = words[at + 1];
-        if (option == "--settings")
-            line.run.settings_path = value;
-        else if (option == "--data")
-            line.run.data_folder = value;
-        else if (option == "--program-folder")
-            line.run.program_folder = value;
-        else if (option == "--palette" && (value == "light" || value == "dark"))
+        if (program::take_place(line.run, option, value)) continue;
+        if (option == "--palette" && (value == "light" || value == "dark"))
             line.shade = value == "dark" ? desktop::Shade::dark : desktop::Shade::light;
         else
             return "unknown option " + option + " " + value;
@@ -76,12 +62,12 @@ bool has_display() {
 int main(int argc, char** argv) {
     const std::vector<std::string> words(argv + 1, argv + argc);
     if (!words.empty() && words.front() == "--help") {
-        std::cout << usage;
+        std::cout << call << program::places_usage << own_usage;
         return 0;
     }
     CommandLine line;
     if (const std::optional<std::string> fault = read_command_line(words, line)) {
-        std::cerr << "levora-wealth-tax: " << *fault << "\n" << usage;
+        std::cerr << "levora-wealth-tax: " << *fault << "\n" << call << program::places_usage << own_usage;
         return wrong_call;
     }
     if (!has_display()) {

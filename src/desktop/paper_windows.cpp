@@ -84,7 +84,8 @@ void add_report_pages(ScreenWindow& window, DesktopDesk* desk) {
     });
 }
 
-void add_sheet_pages(ScreenWindow& window, std::shared_ptr<const paper::Pages> pages, DesktopDesk* desk) {
+void add_sheet_pages(ScreenWindow& window, const std::shared_ptr<const paper::Pages>& pages,
+                     DesktopDesk* desk) {
     auto* view = window.findChild<PageView*>();
     if (view && pages) show_in(*view, pages, desk);
 }

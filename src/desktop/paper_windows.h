@@ -20,7 +20,8 @@ class ScreenWindow;
 // Shows the report of the preview screen in its window, each time it comes up.
 void add_report_pages(ScreenWindow& window, DesktopDesk* desk);
 // Shows the sheet of a grid in the window of the sheet preview.
-void add_sheet_pages(ScreenWindow& window, std::shared_ptr<const paper::Pages> pages, DesktopDesk* desk);
+void add_sheet_pages(ScreenWindow& window, const std::shared_ptr<const paper::Pages>& pages,
+                     DesktopDesk* desk);
 
 // To the printer chosen last; the person chooses one where none is chosen yet.
 void print_report(const document::Report& report, DesktopDesk& desk);

@@ -1,9 +1,9 @@
+#include "program/run_places.h"
 #include "script/lua_call.h"
 #include "script/proxies.h"
 #include "script/report_calls.h"
 #include "script/run_calls.h"
 #include "script/script_host.h"
-#include "session/settings.h"
 #include "widgets/date_text.h"
 
 #include <lua.hpp>
@@ -23,11 +23,8 @@ using namespace levora;
 constexpr int script_failed = 1;
 constexpr int wrong_call = 2;
 
-constexpr std::string_view usage =
-    "usage: levora-wealth-script [options] SCRIPT.lua [ARG ...]\n"
-    "  --settings FILE          the settings file (default: the user's own)\n"
-    "  --data FOLDER            the data folder, for this run only\n"
-    "  --program-folder FOLDER  the program's own folder (default: where this program lies)\n"
+constexpr std::string_view call = "usage: levora-wealth-script [options] SCRIPT.lua [ARG ...]\n";
+constexpr std::string_view own_usage =
     "  --today YYYY-MM-DD       the date that every screen takes as today\n"
     "Exit status: 0 the script ended, 1 it raised an error, 2 wrong call.\n";
 
@@ -37,35 +34,23 @@ struct CommandLine {
 };
 
 int wrong(const std::string& why) {
-    std::cerr << "levora-wealth-script: " << why << "\n" << usage;
+    std::cerr << "levora-wealth-script: " << why << "\n" << call << program::places_usage << own_usage;
     return wrong_call;
-}
-
-std::string own_folder() {
-    std::error_code error;
-    const std::filesystem::path own = std::filesystem::read_symlink("/proc/self/exe", error);
-    return error ? std::filesystem::current_path().string() : own.parent_path().string();
 }
 
 // Fills the command line; what is wrong with it otherwise.
 std::optional<std::string> read_command_line(std::vector<std::string> words, CommandLine& result) {
-    result.host.settings_path = session::Settings::default_path();
-    result.host.program_folder = own_folder();
+    static_cast<program::RunPlaces&>(result.host) = program::own_places();
     std::size_t at = 0;
     for (; at < words.size() && words[at].starts_with("-"); at += 2) {
         const std::string& option = words[at];
-        if (option != "--settings" && option != "--data" && option != "--program-folder" &&
-            option != "--today")
-            return "unknown option " + option;
-        if (at + 1 == words.size()) return option + " needs a value";
-        const std::string& value = words[at + 1];
-        if (option == "--settings")
-            result.host.settings_path = value;
-        else if (option == "--data")
-            result.host.data_folder = value;
-        else if (option == "--program-folder")
-            result.host.program_folder = value;
-        else if (const std::optional<Date> date = parse_date(value); date && iso_date(*date) == value)
+        const bool has_value = at + 1 < words.size();
+        const std::string value = has_value ? words[at + 1] : std::string();
+        const bool is_place = program::take_place(result.host, option, value);
+        if (!is_place && option != "--today") return "unknown option " + option;
+        if (!has_value) return option + " needs a value";
+        if (is_place) continue;
+        if (const std::optional<Date> date = parse_date(value); date && iso_date(*date) == value)
             result.host.today = date;
         else
             return "--today: no date YYYY-MM-DD: " + value;
@@ -110,7 +95,7 @@ std::optional<std::string> run_script(lua_State* state, const std::vector<std::s
 int main(int argc, char** argv) {
     const std::vector<std::string> words(argv + 1, argv + argc);
     if (!words.empty() && words.front() == "--help") {
-        std::cout << usage;
+        std::cout << call << program::places_usage << own_usage;
         return 0;
     }
     CommandLine line;

@@ -6,13 +6,9 @@
 
 namespace levora::script {
 
-namespace {
+using program::without_trailing_separators;
 
-std::string without_trailing_separators(std::string folder) {
-    while (folder.size() > 1 && folder.ends_with('/'))
-        folder.pop_back();
-    return folder;
-}
+namespace {
 
 std::string text_setting(const session::Settings& settings, const std::string& key, const std::string& name) {
     const std::optional<session::Settings::Setting> setting = settings.read(key, name);
@@ -23,10 +19,8 @@ std::string text_setting(const session::Settings& settings, const std::string& k
 } // namespace
 
 ScriptHost::ScriptHost(const HostOptions& options)
-    : settings(options.settings_path), program_folder(without_trailing_separators(options.program_folder)) {
-    if (options.data_folder)
-        settings.hold(session::registry::shared, "LVDBPath",
-                      without_trailing_separators(*options.data_folder));
+    : settings(options.settings_path), program_folder(options.program_folder) {
+    if (options.data_folder) settings.hold(session::registry::shared, "LVDBPath", *options.data_folder);
     if (options.today) desk.set_today(*options.today);
     for (std::string& name : program::Program::screen_names())
         screens_.insert(std::move(name));

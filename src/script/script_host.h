@@ -1,5 +1,6 @@
 #pragma once
 
+#include "program/run_places.h"
 #include "session/session_state.h"
 #include "session/settings.h"
 #include "widgets/control.h"
@@ -23,10 +24,7 @@ class Program;
 
 namespace levora::script {
 
-struct HostOptions {
-    std::string settings_path;
-    std::optional<std::string> data_folder; // holds "LVDBPath" for this run
-    std::string program_folder;
+struct HostOptions : program::RunPlaces {
     std::optional<Date> today;
 };
 
