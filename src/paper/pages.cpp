@@ -73,6 +73,11 @@ private:
     bool has_font_ = false;
 };
 
+bool is_ground(const Mark& mark) {
+    const auto* fill = std::get_if<FillMark>(&mark);
+    return fill && !fill->black;
+}
+
 // The object that holds the author's name is told by the report; else the program stands for him.
 std::string author_of(const document::Report& report) {
     const std::string& object = report.layout().author;
@@ -97,8 +102,11 @@ void Pages::paint(QPainter& painter, int page, double scale) const {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter.scale(scale / units_per_millimetre, scale / units_per_millimetre);
     Painting painting(painter);
-    for (const Mark& mark : pages_.at(static_cast<std::size_t>(page) - 1))
-        std::visit(painting, mark);
+    // Grounds first, so that none of them eats into a line beside it.
+    const Marks& marks = pages_.at(static_cast<std::size_t>(page) - 1);
+    for (const bool grounds : {true, false})
+        for (const Mark& mark : marks)
+            if (is_ground(mark) == grounds) std::visit(painting, mark);
     painter.restore();
 }
 
