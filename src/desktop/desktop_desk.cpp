@@ -93,7 +93,9 @@ DesktopDesk::DesktopDesk() = default;
 DesktopDesk::~DesktopDesk() = default;
 
 std::optional<Answer> DesktopDesk::show_message(const widgets::MessageBox& box) {
-    QMessageBox shown(icon_of(box.icon), to_qt(box.title), to_qt(box.text), QMessageBox::NoButton,
+    // A box that the program gives no title bears the program's name.
+    const QString title = box.title.empty() ? QStringLiteral("Levora Wealth Tax") : to_qt(box.title);
+    QMessageBox shown(icon_of(box.icon), title, to_qt(box.text), QMessageBox::NoButton,
                       QApplication::activeWindow());
     shown.setTextFormat(Qt::PlainText);
     // The told captions, whatever the language of the machine.
