@@ -6,6 +6,7 @@
 #include "widgets/fields.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -177,7 +178,7 @@ private:
     bool showing_ = false;
 };
 
-class ColumnListBinding final : public Binding {
+class ColumnListBinding final : public Binding, private QObject {
 public:
     ColumnListBinding(ColumnList& list, QComboBox* box, Acts& acts)
         : Binding(list, box), list_(list), box_(box), rows_(new QStandardItemModel(box)),
@@ -187,10 +188,19 @@ public:
         view_->setSelectionBehavior(QAbstractItemView::SelectRows);
         box->setModel(rows_);
         box->setView(view_);
+        view_->installEventFilter(this);
         QObject::connect(box, &QComboBox::activated, box, [this, &acts](int row) {
             if (acts.act([&] { list_.choose(row); })) show_content();
         });
     }
+
+    // However it opens and closes, by a key of the screen or by the mouse, the list knows it.
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Show) list_.set_dropped_down(true);
+        if (event->type() == QEvent::Hide) list_.set_dropped_down(false);
+        return QObject::eventFilter(watched, event);
+    }
+    void detach() override { view_->removeEventFilter(this); }
 
 private:
     void show_items() override {
@@ -210,7 +220,8 @@ private:
             view_->setColumnHidden(column, hidden);
             if (hidden) continue;
             view_->resizeColumnToContents(column);
-            width += view_->columnWidth(column) + 8;
+            view_->setColumnWidth(column, view_->columnWidth(column) + 16);
+            width += view_->columnWidth(column);
         }
         view_->setMinimumWidth(width + 24);
         show_content();
@@ -220,7 +231,15 @@ private:
         box_->setCurrentIndex(list_.index());
         if (list_.index() < 0) box_->setPlaceholderText(to_qt(list_.text()));
         box_->update();
-        if (list_.dropped_down() && !view_->isVisible() && box_->isVisible()) box_->showPopup();
+    }
+    void show_state() override {
+        Binding::show_state();
+        if (list_.dropped_down() == view_->isVisible() || !box_->isVisible()) return;
+        if (list_.dropped_down())
+            box_->showPopup();
+        else
+            box_->hidePopup();
+        list_.set_dropped_down(view_->isVisible()); // an empty list does not open
     }
 
     ColumnList& list_;

@@ -54,7 +54,10 @@ void ScreenWindow::keyPressEvent(QKeyEvent* event) {
 void ScreenWindow::focus_came(Control& control, QObject* widget, Qt::FocusReason reason) {
     history_.end_run();
     select_on_release_ = reason == Qt::MouseFocusReason;
-    if (reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason) return;
+    // A window that comes back leaves its active control alone; one that is new has none yet.
+    if (reason == Qt::PopupFocusReason ||
+        (reason == Qt::ActiveWindowFocusReason && form_->active_control() != nullptr))
+        return;
     if (qobject_cast<GridView*>(widget)) return; // enters by itself, once its cell is known
     if (!act([&] { control.enter(); })) return;
     tell(to_qt(control.tooltip()));

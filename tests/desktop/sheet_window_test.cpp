@@ -1,5 +1,6 @@
 #include "window_fixture.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QPushButton>
 
@@ -113,6 +114,20 @@ TEST_F(SheetWindowTest, EnterMovesOnAndControlSSaves) {
     const session::StatementResult saved =
         folder.run(session::Store::tax, "Select * From NetWealthComputation");
     EXPECT_EQ(saved.rows.size(), 1U);
+}
+
+TEST_F(SheetWindowTest, EnterOpensTheListOfChallansFromTheStartAndAgainAfterEscape) {
+    folder.run(session::Store::forms, "INSERT INTO Challan (AssesseeNo, AY, ChallanNo) "
+                                      "VALUES (17, '2014-2015', 'ITNS282')");
+    show("frmChallan282");
+    auto& box = widget<QComboBox>("frmChallan282", "cboChallanList");
+    for (int time = 0; time < 2; ++time) {
+        key(box, Qt::Key_Return);
+        EXPECT_TRUE(box.view()->isVisible());
+        key(*box.view(), Qt::Key_Escape);
+        EXPECT_FALSE(box.view()->isVisible());
+        EXPECT_FALSE(control<widgets::ColumnList>("frmChallan282", "cboChallanList").dropped_down());
+    }
 }
 
 TEST_F(SheetWindowTest, AScreenThatUnloadsItselfTakesItsWindowAlong) {
