@@ -98,6 +98,7 @@ void frmChallan282::LoadChallan() {
 }
 
 void frmChallan282::show_row(const RowSet& row) {
+    // The text alone: the logic of the year, and so mskFinancialYear, waits for a person's choice.
     cboAssessmentYear.set_text(row["AY"].text());
     mskChallanDate.set_text(row["ChallanDate"].day_month_year_or_empty());
     show_options(row);

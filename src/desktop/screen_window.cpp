@@ -362,6 +362,7 @@ void ScreenWindow::restore_place() {
     const QByteArray kept = places.value(QStringLiteral("places/") + to_qt(form_->name())).toByteArray();
     if (kept.isEmpty() || !restoreGeometry(kept))
         move(room.center() - QPoint(width() / 2, height() / 2 + 14));
+    if (centralWidget()->property("in_corner").toBool()) move(room.topLeft());
 }
 
 void ScreenWindow::keep_place() const {
