@@ -171,8 +171,7 @@ bool frmChallan282::Form_QueryUnload() {
         ChallanDirty = true;
         return false;
     case Answer::yes:
-        cmdSave_Click();
-        return true;
+        return cmdSave_Click();
     default:
         return true;
     }

@@ -26,7 +26,7 @@ public:
     void LoadMasterData();
     void LoadAllChallansForAssessee();
     void LoadChallan(); // the one whose key is in ChallanID; a missing one leaves a cleared screen
-    void SaveChallan(); // sets IsNewChallan and updates the list
+    bool SaveChallan(); // sets IsNewChallan and updates the list; false when nothing was stored
     // Resets the entry fields. The receiving bank's fields and the tax chosen carry over.
     void ClearChallan();
     void SetAdvTaxInstallmentNo();
@@ -132,7 +132,7 @@ private:
     void apply_cess(CessSite site);
 
     void cboChallanList_Click();
-    void cmdSave_Click();
+    bool cmdSave_Click(); // false when the challan could not be stored
     void cmdNew_Click();
     void cmdDelete1_Click();
     // What to do with the unsaved challan; Cancel when the box was dismissed.

@@ -139,8 +139,8 @@ void frmChallan282::show_options(const RowSet& row) {
     choose("TypeOfPayment", payments);
 }
 
-void frmChallan282::SaveChallan() {
-    procedure(session_, "frmChallan282 - SaveChallan", [&](const Attempt& attempt) {
+bool frmChallan282::SaveChallan() {
+    return procedure(session_, "frmChallan282 - SaveChallan", [&](const Attempt& attempt) {
         const auto open = [&](const std::string& select) {
             session_.SqlText = select;
             return attempt([&] { return session_.FormsDb.open_rows(session_.SqlText, RowSetUse::update); });
@@ -247,14 +247,13 @@ Answer frmChallan282::ask_to_save(const char* title) {
 void frmChallan282::cboChallanList_Click() {
     if (cboChallanList.index() != ListRow && ChallanDirty) {
         const Answer answer = ask_to_save("Levora Forms - Challan");
-        if (answer == Answer::cancel) {
+        if (answer == Answer::cancel || (answer == Answer::yes && !cmdSave_Click())) {
             // A row that a delete has taken away can't be gone back to.
             cboChallanList.set_index(ListRow < cboChallanList.count() ? ListRow : -1);
             ChallanDirty = true;
             SaveCancelled = true;
             return;
         }
-        if (answer == Answer::yes) cmdSave_Click();
     }
     // Saving may have moved the selection, and with it ListRow.
     const int row = cboChallanList.index();
@@ -267,15 +266,20 @@ void frmChallan282::cboChallanList_Click() {
     ListRow = row;
 }
 
-void frmChallan282::cmdSave_Click() {
-    SaveChallan();
+bool frmChallan282::cmdSave_Click() {
+    if (!SaveChallan()) {
+        // What could not be stored stays on the screen, and is asked for again.
+        ChallanDirty = true;
+        return false;
+    }
     if (IsNewChallan) {
         cboChallanList.set_index(cboChallanList.count() - 1);
-        return;
+    } else {
+        const int row = cboChallanList.index();
+        cboChallanList.set_index(-1);
+        cboChallanList.set_index(row);
     }
-    const int row = cboChallanList.index();
-    cboChallanList.set_index(-1);
-    cboChallanList.set_index(row);
+    return true;
 }
 
 void frmChallan282::cmdNew_Click() {

@@ -191,6 +191,24 @@ TEST_F(ChallanTest, DeleteTakesTheChallanLastLoadedEvenFromABlankScreenAsWanted)
     EXPECT_EQ(amounts(), "      = ");
 }
 
+TEST_F(ChallanTest, AChallanThatCanNotBeStoredStaysOnTheScreen) {
+    stored("2014-2015", "'2014-09-15'", "300", 100);
+    stored("2014-2015", "'2014-09-20'", "300", 200);
+    screen().cboChallanList.choose(1);
+    screen().txtChequeNo.type("77");
+    data.run(Store::forms, "ALTER TABLE Challan RENAME TO Away");
+    desk.queue_answer(Answer::yes);
+    screen().cboChallanList.choose(0); // the report is dismissed
+    EXPECT_EQ(screen().txtChequeNo.text(), "77");
+    desk.queue_answer(Answer::yes);
+    EXPECT_FALSE(close());
+    data.run(Store::forms, "ALTER TABLE Away RENAME TO Challan");
+    desk.queue_answer(Answer::yes);
+    desk.queue_answer(Answer::yes);
+    EXPECT_TRUE(close());
+    EXPECT_EQ(data.rows(Store::forms, "SELECT ChqNo FROM Challan WHERE ChallanID = 2"), "77");
+}
+
 TEST_F(ChallanTest, ClosingAsksOnlyForAChangedChallan) {
     EXPECT_TRUE(close());
     EXPECT_EQ(boxes(), "");
