@@ -338,6 +338,14 @@ std::string upper_case(std::string_view text) {
     std::string result(text);
     for (char& c : result)
         if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    // The accented letters of western names: two bytes each, the small ones 32 above the capitals.
+    for (std::size_t at = result.find('\xC3'); at != std::string::npos; at = result.find('\xC3', at + 1)) {
+        if (at + 1 == result.size()) break;
+        const auto second = static_cast<unsigned char>(result[at + 1]);
+        constexpr unsigned char first_small = 0xA0, last_small = 0xBE, division_sign = 0xB7;
+        if (second >= first_small && second <= last_small && second != division_sign)
+            result[at + 1] = static_cast<char>(second - 0x20);
+    }
     return result;
 }
 

@@ -12,7 +12,7 @@ TEST_F(ReportsTest, TheChallanShowsTheScreenObjectByObject) {
     on.txtName.type("Asha Rao");
     on.txtPan.type("aaapr1234c");
     on.txtAddress1.type("12 MG Road");
-    on.txtAddress2.type("Pune");
+    on.txtAddress2.type("Pondichéry");
     on.cboAssessmentYear.choose("2014-2015");
     on.mskChallanDate.type("15/09/2014");
     on.txtIncomeTax.type("1200000");
@@ -24,7 +24,7 @@ TEST_F(ReportsTest, TheChallanShowsTheScreenObjectByObject) {
     EXPECT_EQ(filled(previewed()),
               "tickWealthTax: [x]\ntxtAY: 2014-2015\ntxtFY: 2013-2014\ntxtPANDigits: AAAPR1234C\n"
               "txtPANBarCode: *AAAPR1234C*\ntxtPANUnderBar: AAAPR1234C\ntxtName1: ASHA RAO\n"
-              "txtAddr1: 12 MG ROAD\ntxtAddr2: PUNE\ntickAdvTax: [x]\ntxtAmtTax: 12,00,000\n"
+              "txtAddr1: 12 MG ROAD\ntxtAddr2: PONDICHÉRY\ntickAdvTax: [x]\ntxtAmtTax: 12,00,000\n"
               "txtAmtSurcharge: 0\ntxtAmtCess: 0\ntxtAmtInterest: 34,567\ntxtAmtPenalty: 0\n"
               "txtAmtOther: 0\ntxtAmtTotal: 12,34,567\ntxtLakhsA: Twelve\ntxtThousandsA: Thirty\n"
               "txtThousandsB: Four\ntxtHundreds: Five\ntxtTens: Six\ntxtUnits: Seven\ntxtChqNo: 445566\n"
