@@ -51,6 +51,7 @@ enum class ElementKind {
     tick,     // a text object that shows a check mark, centred in its box
     digits,   // a text object, one character to each of `count` squares
     bar_code, // a text object drawn as Code 39 from what stands between its two stars
+    bar,      // an amount in rupees as a bar with its figure; bars with one left edge share one scale
 };
 
 struct Element {

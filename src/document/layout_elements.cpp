@@ -20,6 +20,7 @@ constexpr double lower_edge = 0.4;  // between that line, or a tick box, and the
 constexpr double smallest_font = 1;
 constexpr double largest_font = 100;
 constexpr double most_squares = 200;
+constexpr double bar_from = 0.38;    // of a bar's width is its caption
 constexpr double caption_drop = 0.5; // between the cell's upper edge and its caption
 
 TextLook read_look(XmlNode& node, TextLook look) {
@@ -134,6 +135,19 @@ void read_bar_code(XmlNode& node, std::vector<Element>& elements) {
     elements.push_back(object(ElementKind::bar_code, box, {}, node));
 }
 
+// A line of a bar chart: caption, bar, figure. Bold is for a sum.
+void read_bar(XmlNode& node, std::vector<Element>& elements) {
+    const Box box = node.box();
+    const double bar_left = node.number("from", box.left + box.width() * bar_from);
+    const TextLook look = read_look(node, {.size = caption_size, .align = Align::right});
+    TextLook caption = look;
+    caption.align = Align::left;
+    Element bar = object(ElementKind::bar, {bar_left, box.top, box.right, box.bottom}, look, node);
+    elements.push_back(words({box.left, box.top, bar_left, box.bottom}, caption, std::move(bar.text)));
+    bar.text.clear();
+    elements.push_back(std::move(bar));
+}
+
 // A ruled cell: its caption at the top left, its object below, or on the caption's line from "from" on;
 // tick boxes inside it stand at its lower edge.
 void read_cell(XmlNode& node, std::vector<Element>& elements) {
@@ -222,6 +236,7 @@ constexpr std::array readers{
     Reader{"object", read_object},    Reader{"tick", read_tick},     Reader{"squares", read_squares},
     Reader{"tickbox", read_tick_box}, Reader{"digits", read_digits}, Reader{"barcode", read_bar_code},
     Reader{"cell", read_cell},        Reader{"band", read_band},     Reader{"amount", read_amount},
+    Reader{"bar", read_bar},
 };
 
 } // namespace

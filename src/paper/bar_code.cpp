@@ -45,8 +45,9 @@ void place_bar_code(const QRectF& box, std::string_view starred, Marks& marks) {
         while (end < symbol->width && is_bar(end))
             ++end;
         if (end > module)
-            marks.emplace_back(FillMark{
-                .area = {left + module * bar, box.top(), (end - module) * bar, box.height()}, .black = true});
+            marks.emplace_back(
+                FillMark{.area = {left + module * bar, box.top(), (end - module) * bar, box.height()},
+                         .fill = Fill::black});
         module = end + 1;
     }
 }

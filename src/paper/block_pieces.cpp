@@ -1,6 +1,7 @@
 #include "paper/bar_code.h"
 #include "paper/pieces.h"
 #include "paper/text_fit.h"
+#include "widgets/value_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -124,6 +125,23 @@ void draw_digits(Fonts& fonts, const QRectF& box, const Element& element, const 
     }
 }
 
+// The figure at the right edge, the bar on its track before it.
+void draw_bar(Fonts& fonts, const QRectF& box, const Element& element, const QString& amount, double share,
+              Marks& marks) {
+    constexpr double figure_part = 0.36; // of the box
+    constexpr double thickness = 1.8;
+    constexpr double thinnest = 0.4; // a small amount beside a large one can still be seen
+    const QRectF track(box.left(), box.center().y() - thickness / 2, box.width() * (1 - figure_part),
+                       thickness);
+    marks.emplace_back(FillMark{.area = track});
+    QRectF bar = track;
+    bar.setWidth(std::max(track.width() * share, thinnest));
+    if (share > 0)
+        marks.emplace_back(FillMark{.area = bar, .fill = element.look.bold ? Fill::sum_bar : Fill::bar});
+    place_text(fonts, {QPointF(track.right(), box.top()), box.bottomRight()}, element.look,
+               QString::fromStdString(group_indian_text(amount.toStdString())), marks);
+}
+
 QString with_page_numbers(QString text, const PageNumber& number) {
     return text.replace(QLatin1String("{pages}"), QString::number(number.pages))
         .replace(QLatin1String("{page}"), QString::number(number.page));
@@ -168,7 +186,7 @@ private:
         const QRectF area = area_of(element);
         switch (element.kind) {
         case ElementKind::frame:
-            if (element.filled) marks.emplace_back(FillMark{.area = area, .black = false});
+            if (element.filled) marks.emplace_back(FillMark{.area = area});
             if (element.line.style != document::LineStyle::none)
                 marks.emplace_back(RectangleMark{.area = area, .width = element.line.width});
             break;
@@ -191,7 +209,19 @@ private:
         case ElementKind::bar_code:
             place_bar_code(area, report_.text(element.name), marks);
             break;
+        case ElementKind::bar:
+            draw_bar(fonts_, area, element, text_of(report_, element), share_of(element), marks);
+            break;
         }
+    }
+
+    // The part of its longest neighbour that a bar reaches; none of an amount below 0.
+    [[nodiscard]] double share_of(const Element& bar) const {
+        double largest = 0;
+        for (const Element& each : block_.elements)
+            if (each.kind == ElementKind::bar && each.box.left == bar.box.left)
+                largest = std::max(largest, val(report_.text(each.name)));
+        return largest > 0 ? std::max(0.0, val(report_.text(bar.name)) / largest) : 0;
     }
 
     void draw_object(const Element& element, const QRectF& area, Marks& marks) {

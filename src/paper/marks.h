@@ -16,9 +16,11 @@
 // searching read them.
 namespace levora::paper {
 
+enum class Fill { band, bar, sum_bar, black }; // greys, from light to dark
+
 struct FillMark {
     QRectF area;
-    bool black = false; // else the light grey of bands
+    Fill fill = Fill::band;
 };
 
 struct LineMark {

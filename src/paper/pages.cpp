@@ -7,12 +7,13 @@
 #include <QPen>
 
 #include <algorithm>
+#include <array>
 
 namespace levora::paper {
 
 namespace {
 
-constexpr int band_grey = 230;
+constexpr std::array greys{230, 150, 70, 0}; // of Fill, from light to dark
 const QColor grey_letters(128, 128, 128);
 
 class Painting {
@@ -20,8 +21,8 @@ public:
     explicit Painting(QPainter& painter) : painter_(painter) {}
 
     void operator()(const FillMark& mark) {
-        painter_.fillRect(scaled(mark.area),
-                          mark.black ? QColor(Qt::black) : QColor(band_grey, band_grey, band_grey));
+        const int grey = greys.at(static_cast<std::size_t>(mark.fill));
+        painter_.fillRect(scaled(mark.area), QColor(grey, grey, grey));
     }
     void operator()(const LineMark& mark) {
         painter_.setPen(pen(mark.width, mark.style));

@@ -160,7 +160,7 @@ private:
         double x = left_;
         for (std::size_t at = 0; at < group.size(); ++at) {
             const QRectF area(x, y_, group[at].width, height);
-            if (row == 0) pages_.back().emplace_back(FillMark{.area = area, .black = false});
+            if (row == 0) pages_.back().emplace_back(FillMark{.area = area});
             pages_.back().emplace_back(RectangleMark{.area = area, .width = 0.2});
             double line_top = y_ + line_padding;
             for (const QString& line : cells[at]) {

@@ -66,7 +66,7 @@ private:
             return area;
         };
         const QRectF band = full_row(band_height);
-        head.marks.emplace_back(FillMark{.area = band, .black = false});
+        head.marks.emplace_back(FillMark{.area = band});
         head.marks.emplace_back(RectangleMark{.area = band, .width = 0.25});
         const QRectF inside = band.adjusted(band_padding, 0, -band_padding, 0);
         document::TextLook look{.size = 9, .bold = true};

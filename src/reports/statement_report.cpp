@@ -4,6 +4,7 @@
 #include "document/report_files.h"
 #include "reports/report_source.h"
 #include "reports/screen_text.h"
+#include "schedules/asset_composition.h"
 #include "session/common_services.h"
 #include "widgets/value_text.h"
 
@@ -37,6 +38,20 @@ constexpr std::array figures{
     Figure{"txtRepTotalAssets", "txtTotalAssets"},
     Figure{"txtRepWealthTax", "txtWealthTaxLiability"},
 };
+
+// The bars below the figures, and the sheet's fields that they show.
+constexpr std::array flow_bars{
+    Figure{"barAssets", "txtAssetsSec2ea"},
+    Figure{"barDeemedAssets", "txtDeemedAssets"},
+    Figure{"barAssetsChargeable", "txtAssetsChargeableToWTax"},
+    Figure{"barDebt", "txtLessDebt"},
+    Figure{"barNetWealth", "txtNetWealth"},
+    Figure{"barTaxableWealth", "txtTaxableWealth"},
+    Figure{"barWealthTax", "txtWealthTaxLiability"},
+};
+// In the order of an asset composition.
+constexpr std::array<std::string_view, 6> schedule_bars{"barImmovable", "barMovable",  "barUrbanLand",
+                                                        "barFirm",      "barBusiness", "barJewellery"};
 
 struct Word {
     double code;
@@ -96,6 +111,19 @@ void FillStatementFigures(session::Session& session, document::Report& report) {
         report.set_text(each.object, text_of(session, screen, each.control));
 }
 
+// A layout that a practice made its own may do without the bars.
+void set_bar(document::Report& report, std::string_view bar, double amount) {
+    if (report.has_object(bar)) report.set_text(bar, number_text(amount));
+}
+
+void fill_bars(session::Session& session, document::Report& report) {
+    for (const Figure& each : flow_bars)
+        set_bar(report, each.object, val(text_of(session, screen, each.control)));
+    const schedules::AssetComposition parts = schedules::asset_composition(session);
+    for (std::size_t at = 0; at < parts.size(); ++at)
+        set_bar(report, schedule_bars.at(at), parts.at(at).amount);
+}
+
 // Father's name and its caption show for an individual only.
 void ShowIndividualFields(document::Report& report) {
     const bool individual = report.text("Status") == "Individual";
@@ -134,6 +162,7 @@ void preview_statement(session::Session& session) {
             report.on_format = [&session](document::Report& shown) {
                 ReportHeaderSection1_Format(session, shown);
                 FillStatementFigures(session, shown);
+                fill_bars(session, shown);
                 ShowIndividualFields(shown);
             };
             session.PreviewSource = preview_source::statement;

@@ -7,6 +7,9 @@ namespace {
 
 TEST_F(ReportsTest, TheStatementShowsTheUnsavedSheetObjectByObject) {
     start();
+    folder.run(Store::tax, "INSERT INTO [Asset Details] (AssesseeNo, FY, AssetType, NetImmovableProperty, "
+                           "NetMovableProperty, NetUrbanLand, TotalNetAsset) VALUES "
+                           "(17, '2014-2015', 0, 6000000, 900000, 500000, 8000000)");
     type_on_sheet("txtLessDebt", "250000");
     auto* assets = dynamic_cast<widgets::TextField*>(sheet().find("txtAssetsSec2ea"));
     assets->set_text("9000000");
@@ -22,7 +25,10 @@ TEST_F(ReportsTest, TheStatementShowsTheUnsavedSheetObjectByObject) {
               "txtRepNetWealth: 8750000\ntxtRepNetWealthRounded: 8750000\ntxtRepTaxableWealth: 5750000\n"
               "lblWealthTaxRate: Wealth Tax  @ 1% on Net Wealth in excess of Rs 30,00,000\n"
               "txtRepWealthTax: 57500\ntxtRepTaxIntPayable: 57500\ntxtRepBalance: 57500\n"
-              "txtRepRefund: 0\n");
+              "txtRepRefund: 0\nbarImmovable: 6000000\nbarMovable: 900000\nbarUrbanLand: 500000\n"
+              "barFirm: 0\nbarBusiness: 0\nbarJewellery: 600000\n" // what the total has beyond the rest
+              "barAssets: 9000000\nbarDeemedAssets: 0\nbarAssetsChargeable: 9000000\nbarDebt: 250000\n"
+              "barNetWealth: 8750000\nbarTaxableWealth: 5750000\nbarWealthTax: 57500\n");
     EXPECT_EQ(previewed().caption, "Statement of Wealth Tax Preview - F.Y. 2014-2015");
 }
 
