@@ -15,6 +15,7 @@ namespace {
 
 constexpr double twips_per_millimetre = 56.7;
 constexpr double tolerance = 0.01; // millimetres
+constexpr double outer_frame = 0.5;
 
 class ReportPages {
 public:
@@ -103,17 +104,28 @@ private:
                 new_page();
             section_top_ = y_;
         }
+        const bool framed = made.head.height > 0;
+        double frame_top = y_;
         put(made.head);
         bool in_chain = true; // the first was measured together with the head
         for (std::size_t at = 0; at < made.pieces.size(); ++at) {
             const bool full = y_ + chain_height(made.pieces, at) > bottom_ + tolerance;
             if (!in_chain && full && !layout_.one_page && !section.over_previous) {
+                if (framed) put_outer_frame(frame_top);
                 new_page();
+                frame_top = y_;
                 put(made.head);
             }
             in_chain = made.pieces[at].keep_with_next;
             put(std::move(made.pieces[at]));
         }
+        if (framed) put_outer_frame(frame_top);
+    }
+
+    // Around what a schedule has on this page.
+    void put_outer_frame(double from) {
+        pages_.back().emplace_back(
+            RectangleMark{.area = {left_, from, layout_.body.width(), y_ - from}, .width = outer_frame});
     }
 
     // A piece and those that have to stay with it.

@@ -177,6 +177,12 @@ TEST_F(PaperTest, SchedulesRepeatBandAndHeadOnEachPageAndKeepTheTotalWithTheLast
     report.set_text("txtFooter", "ASHA RAO / A.Y-2014-2015");
     const std::string path = pdf(report);
     const int pages = Pages(report).count();
+    Fonts fonts;
+    for (const Marks& page : lay_out(fonts, report))
+        EXPECT_TRUE(std::any_of(page.begin(), page.end(), [](const Mark& mark) {
+            const auto* frame = std::get_if<RectangleMark>(&mark);
+            return frame && frame->width == 0.5 && frame->area.width() == 186;
+        })) << "the outer frame, also of a schedule's middle pages";
     int with_rows = 0;
     int rows = 0;
     int total_page = 0;
