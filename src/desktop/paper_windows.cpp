@@ -36,9 +36,10 @@ void tell_failure(widgets::Desk& desk, const Failure& failure) {
         {failure.what(), "Levora Wealth Tax", widgets::Icon::exclamation, {widgets::Answer::ok}});
 }
 
-void print_pages(const paper::Pages& pages, DesktopDesk& desk, int copies) {
+// Pages and copies as the printer's dialog has them.
+void print_as_chosen(const paper::Pages& pages, DesktopDesk& desk) {
     try {
-        if (desk.printer()) paper::print(pages, *desk.printer(), copies);
+        if (desk.choose_printer()) paper::print(pages, *desk.printer(), desk.printer()->copyCount());
     } catch (const Failure& failure) {
         tell_failure(desk, failure);
     }
@@ -61,9 +62,7 @@ void show_in(PageView& view, const std::shared_ptr<const paper::Pages>& pages, D
     view.disconnect(SIGNAL(print_asked()));
     view.disconnect(SIGNAL(export_asked()));
     if (!desk) return;
-    QObject::connect(&view, &PageView::print_asked, &view, [pages, desk] {
-        if (desk->choose_printer()) print_pages(*pages, *desk, 1);
-    });
+    QObject::connect(&view, &PageView::print_asked, &view, [pages, desk] { print_as_chosen(*pages, *desk); });
     QObject::connect(&view, &PageView::export_asked, &view,
                      [pages, desk, &view] { export_pages(*pages, view, *desk); });
 }
@@ -92,12 +91,15 @@ void add_sheet_pages(ScreenWindow& window, const std::shared_ptr<const paper::Pa
 
 void print_report(const document::Report& report, DesktopDesk& desk) {
     if (!desk.printer() && !desk.choose_printer()) return;
-    print_pages(paper::Pages(report), desk, report.copies);
+    paper::print(paper::Pages(report), *desk.printer(), report.copies);
 }
 
 void print_grid_sheet(const widgets::Grid& grid, DesktopDesk& desk) {
-    if (!desk.printer() && !desk.choose_printer()) return;
-    print_pages(paper::pages_of_sheet(grid), desk, 1);
+    // At once on the printer chosen last; a file chosen last holds another paper, which would be lost.
+    const bool at_once = desk.printer() && desk.printer()->outputFileName().isEmpty();
+    if (!at_once && !desk.choose_printer()) return;
+    if (at_once) desk.printer()->setPageRanges({}); // those of another paper
+    paper::print(paper::pages_of_sheet(grid), *desk.printer(), 1);
 }
 
 } // namespace levora::desktop

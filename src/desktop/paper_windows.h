@@ -23,7 +23,8 @@ void add_report_pages(ScreenWindow& window, DesktopDesk* desk);
 void add_sheet_pages(ScreenWindow& window, const std::shared_ptr<const paper::Pages>& pages,
                      DesktopDesk* desk);
 
-// To the printer chosen last; the person chooses one where none is chosen yet.
+// To the printer chosen last; the person chooses one where none is chosen yet, and for a sheet also where
+// the last choice was a file. A Failure 482 when the printer can't be used.
 void print_report(const document::Report& report, DesktopDesk& desk);
 void print_grid_sheet(const widgets::Grid& grid, DesktopDesk& desk);
 

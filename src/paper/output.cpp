@@ -6,6 +6,7 @@
 
 #include <QBuffer>
 #include <QPageLayout>
+#include <QPageRanges>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
@@ -65,13 +66,17 @@ void print(const Pages& pages, QPrinter& printer, int copies) {
     printer.setDocName(QString::fromStdString(pages.title()));
     printer.setCopyCount(1); // copies are painted, as not every printer makes them
     if (copies < 1) return;
+    const QPageRanges chosen = printer.pageRanges();
     QPainter painter;
     if (!painter.begin(&printer))
         throw Failure(printer_error,
                       "The printer " + printer.printerName().toStdString() + " can't be used.");
+    bool first = true;
     for (int copy = 0; copy < copies; ++copy)
         for (int page = 1; page <= pages.count(); ++page) {
-            if (copy > 0 || page > 1) printer.newPage();
+            if (!chosen.isEmpty() && !chosen.contains(page)) continue;
+            if (!first) printer.newPage();
+            first = false;
             pages.paint(painter, page, printer.logicalDpiX() / millimetres_per_inch);
         }
 }

@@ -15,7 +15,8 @@ QByteArray pdf_of(const Pages& pages);
 // See save_pdf of report_paper.h.
 void save_pdf(const Pages& pages, const std::string& path);
 
-// Sends the pages to a printer, so many copies of all: 0 and less print nothing. The printer's own
+// Sends the pages to a printer, or those of the range chosen for it, so many copies of all: 0 and less
+// print nothing. The printer's own
 // margins cut, they do not move. A Failure 482 when the printer can't be opened.
 void print(const Pages& pages, QPrinter& printer, int copies);
 

@@ -82,15 +82,19 @@ TEST_F(PaperTest, SearchFindsWordsWithoutRegardToCaseWhereTheyStand) {
     EXPECT_TRUE(Pages(report).find(QString()).empty());
 }
 
-TEST_F(PaperTest, APrinterGetsAllCopiesAndNoneWhenNoneAreAsked) {
+TEST_F(PaperTest, APrinterGetsItsPagesInAllCopiesAndNoneWhenNoneAreAsked) {
     ensure_application();
     const Pages pages(shipped("FormBB")); // three pages
     struct Case {
         int copies;
+        int from; // the range chosen for the printer; 0 for all
+        int to;
         const char* pages;
     };
-    for (const Case& each : {Case{1, "Pages:           3\n"}, Case{2, "Pages:           6\n"}}) {
+    for (const Case& each : {Case{1, 0, 0, "Pages:           3\n"}, Case{2, 0, 0, "Pages:           6\n"},
+                             Case{2, 2, 3, "Pages:           4\n"}}) {
         QPrinter printer;
+        printer.setFromTo(each.from, each.to);
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(QString::fromStdString(folder + "/printed.pdf"));
         print(pages, printer, each.copies);
