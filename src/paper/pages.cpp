@@ -76,7 +76,7 @@ private:
 
 bool is_ground(const Mark& mark) {
     const auto* fill = std::get_if<FillMark>(&mark);
-    return fill && !fill->black;
+    return fill && fill->fill == Fill::band;
 }
 
 // The object that holds the author's name is told by the report; else the program stands for him.
