@@ -24,7 +24,7 @@ void add_sheet_pages(ScreenWindow& window, const std::shared_ptr<const paper::Pa
                      DesktopDesk* desk);
 
 // To the printer chosen last; the person chooses one where none is chosen yet, and for a sheet also where
-// the last choice was a file. A Failure 482 when the printer can't be used.
+// the last choice was a file. Failures as of paper::print.
 void print_report(const document::Report& report, DesktopDesk& desk);
 void print_grid_sheet(const widgets::Grid& grid, DesktopDesk& desk);
 

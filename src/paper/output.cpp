@@ -68,9 +68,12 @@ void print(const Pages& pages, QPrinter& printer, int copies) {
     if (copies < 1) return;
     const QPageRanges chosen = printer.pageRanges();
     QPainter painter;
-    if (!painter.begin(&printer))
+    if (!painter.begin(&printer)) {
+        const std::string file = printer.outputFileName().toStdString();
+        if (!file.empty()) throw Failure(error_number::path_access, "Can't write " + file);
         throw Failure(printer_error,
                       "The printer " + printer.printerName().toStdString() + " can't be used.");
+    }
     bool first = true;
     for (int copy = 0; copy < copies; ++copy)
         for (int page = 1; page <= pages.count(); ++page) {

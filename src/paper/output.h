@@ -16,8 +16,8 @@ QByteArray pdf_of(const Pages& pages);
 void save_pdf(const Pages& pages, const std::string& path);
 
 // Sends the pages to a printer, or those of the range chosen for it, so many copies of all: 0 and less
-// print nothing. The printer's own
-// margins cut, they do not move. A Failure 482 when the printer can't be opened.
+// print nothing. The printer's own margins cut, they do not move. A Failure 482 when the printer can't be
+// opened, 75 for a file in its place.
 void print(const Pages& pages, QPrinter& printer, int copies);
 
 } // namespace levora::paper

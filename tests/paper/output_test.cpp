@@ -9,6 +9,8 @@
 
 #include <QPrinter>
 
+#include <functional>
+
 namespace levora::paper::testing {
 namespace {
 
@@ -39,13 +41,22 @@ TEST_F(PaperTest, TheTickIsAMarkThatIsReadBackAndNothingElseDrawsOne) {
 
 TEST_F(PaperTest, AFileThatCantBeWrittenIsToldByItsName) {
     const std::string path = folder + "/no/such/place.pdf";
-    try {
-        save_pdf(Pages(shipped("RepWealthTax")), path);
-        FAIL() << "written nowhere";
-    } catch (const Failure& failure) {
-        EXPECT_EQ(failure.number, 75);
-        EXPECT_NE(std::string(failure.what()).find(path), std::string::npos) << failure.what();
-    }
+    const Pages pages(shipped("RepWealthTax"));
+    const auto to_file = [&] { save_pdf(pages, path); };
+    const auto to_printer = [&] {
+        QPrinter printer;
+        printer.setOutputFileName(QString::fromStdString(path));
+        print(pages, printer, 1);
+    };
+    for (const std::function<void()>& write :
+         std::initializer_list<std::function<void()>>{to_file, to_printer})
+        try {
+            write();
+            ADD_FAILURE() << "written nowhere";
+        } catch (const Failure& failure) {
+            EXPECT_EQ(failure.number, 75);
+            EXPECT_NE(std::string(failure.what()).find(path), std::string::npos) << failure.what();
+        }
 }
 
 // Where both are rendered, a picture of the preview is a picture of the PDF but for the smoothing of
