@@ -2,6 +2,17 @@
 # folder of their own, as the program looks for them beside itself; /usr/bin holds links.
 set(levora_home ${CMAKE_INSTALL_LIBDIR}/levora-wealth-tax)
 
+# Pages and change log go out compressed, without a time in them, so that a package can be made again.
+function(levora_install_compressed file folder)
+    get_filename_component(name ${file} NAME)
+    set(compressed ${CMAKE_BINARY_DIR}/compressed/${name}.gz)
+    file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/compressed)
+    execute_process(COMMAND gzip -9 -n -c ${CMAKE_SOURCE_DIR}/${file} OUTPUT_FILE ${compressed}
+                    COMMAND_ERROR_IS_FATAL ANY)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${file})
+    install(FILES ${compressed} DESTINATION ${folder})
+endfunction()
+
 foreach(program levora-wealth-tax levora-wealth-script levora-wealth-data)
     if(TARGET ${program})
         install(TARGETS ${program} RUNTIME DESTINATION ${levora_home})
@@ -9,7 +20,7 @@ foreach(program levora-wealth-tax levora-wealth-script levora-wealth-data)
             set(bin \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}\")
             file(MAKE_DIRECTORY \"\${bin}\")
             file(CREATE_LINK \"../${levora_home}/${program}\" \"\${bin}/${program}\" SYMBOLIC)")
-        install(FILES share/man/${program}.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+        levora_install_compressed(share/man/${program}.1 ${CMAKE_INSTALL_MANDIR}/man1)
     endif()
 endforeach()
 foreach(part Report)
@@ -30,11 +41,18 @@ install(FILES share/icons/levora-wealth-tax.svg
 set(levora_pages ${CMAKE_INSTALL_DATADIR}/doc/levora-wealth-tax)
 install(FILES README.md DESTINATION ${levora_pages})
 install(DIRECTORY docs DESTINATION ${levora_pages})
+install(FILES share/debian/copyright DESTINATION ${levora_pages})
+levora_install_compressed(share/debian/changelog ${levora_pages})
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME levora-wealth-tax)
 set(CPACK_PACKAGE_CONTACT "Levora <team@levora.example>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Indian wealth tax: computation, return, challan")
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
+    "Computes the wealth tax of one assessee and assessment year, keeps the
+Schedule III valuations behind it, completes the return of net wealth with
+its e-Return file, and prints the challan ITNS 282, Form BB and a statement
+of wealth. Every screen can be driven by a script.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
