@@ -9,8 +9,7 @@ namespace levora::desktop {
 
 namespace {
 constexpr int row_height = 46; // where there is room
-constexpr int least_row_height = 34;
-constexpr int bar_height = 10;
+constexpr int least_row_height = 28;
 } // namespace
 
 CompositionChart::CompositionChart(QWidget* parent) : QWidget(parent) {
@@ -22,7 +21,6 @@ void CompositionChart::show_bars(std::vector<Bar> bars) {
     QStringList words;
     for (const Bar& bar : bars_)
         words += bar.name + QStringLiteral(" ") + bar.figure;
-    setAccessibleName(tr("Composition of the wealth"));
     setAccessibleDescription(words.join(QStringLiteral("; ")));
     updateGeometry();
     update();
@@ -45,6 +43,7 @@ void CompositionChart::paintEvent(QPaintEvent*) {
     strong.setWeight(QFont::DemiBold);
     const int rows = std::max(1, static_cast<int>(bars_.size()));
     const int step = std::clamp(height() / rows, least_row_height, row_height);
+    const int bar_height = step < 36 ? 6 : 10;
     int top = 0;
     for (const Bar& bar : bars_) {
         painter.setFont(bar.total ? strong : plain);

@@ -52,7 +52,7 @@ void DesktopRun::tie_paper() {
 
 void DesktopRun::window_made(ScreenWindow* window) {
     const std::string& screen = window->form()->name();
-    if (screen == "frmWealthMain" || screen == "frmImmovable") add_sheet_extras(*window);
+    if (screen == "frmWealthMain" || screen == "frmImmovable") add_sheet_extras(*window, program_.session());
     if (screen == "frmWealthMain" || screen == "frmFormBA")
         keep_edits(*window, program_.session(), [this](const QString& question) {
             return widgets::says_yes(program_.session().desk, {from_qt(question),

@@ -73,8 +73,10 @@ QColor locked_ground(const QPalette& palette) {
 }
 
 QColor ground_of(unsigned rgb, const QPalette& palette) {
-    if (rgb == widgets::grey_rgb) return locked_ground(palette);
     const QColor told = QColor::fromRgb(rgb);
+    // Computed cells are told in more than one grey.
+    if (told.hslSaturation() == 0 && told.lightness() > 180 && told.lightness() < 255)
+        return locked_ground(palette);
     if (!is_dark(palette)) return told;
     // The same hue, as dark as the palette is.
     return QColor::fromHsl(told.hslHue(), told.hslSaturation() / 2, 255 - told.lightness() * 4 / 5);

@@ -4,6 +4,8 @@
 #include "desktop/composition_chart.h"
 #include "desktop/qt_text.h"
 #include "desktop/screen_window.h"
+#include "schedules/asset_composition.h"
+#include "session/session_state.h"
 #include "widgets/fields.h"
 
 #include <QTimer>
@@ -50,6 +52,10 @@ QString short_words(const std::string& label) {
     return words.trimmed();
 }
 
+CompositionChart::Bar bar(const QString& words, double amount, bool total) {
+    return {words, amount, to_qt(group_indian_text(number_text(amount))), total};
+}
+
 void show_composition(const ScreenWindow& window, CompositionChart& chart) {
     const widgets::Form& form = *window.form();
     // The panels of challans and enclosures take its place.
@@ -65,9 +71,16 @@ void show_composition(const ScreenWindow& window, CompositionChart& chart) {
     for (const ChartLine& line : chart_lines) {
         const auto* field = static_cast<const widgets::TextField*>(form.find(line.control));
         if (!field) continue;
-        bars.push_back({short_words(field->label), field->value(),
-                        to_qt(group_indian_text(number_text(field->value()))), line.total});
+        bars.push_back(bar(short_words(field->label), field->value(), line.total));
     }
+    chart.show_bars(std::move(bars));
+}
+
+// The schedules behind the sheet, as they are stored.
+void show_schedules(session::Session& session, CompositionChart& chart) {
+    std::vector<CompositionChart::Bar> bars;
+    for (const schedules::CompositionPart& part : schedules::asset_composition(session))
+        bars.push_back(bar(to_qt(part.schedule), part.amount, false));
     chart.show_bars(std::move(bars));
 }
 
@@ -78,10 +91,10 @@ void tell_why(ScreenWindow& window, const widgets::Control* control) {
 
 } // namespace
 
-void add_sheet_extras(ScreenWindow& window) {
+void add_sheet_extras(ScreenWindow& window, session::Session& session) {
     QObject::connect(&window, &ScreenWindow::explanation_wanted, &window,
                      [&window](const widgets::Control* control) { tell_why(window, control); });
-    auto* chart = window.findChild<CompositionChart*>();
+    auto* chart = window.findChild<CompositionChart*>(QStringLiteral("composition"));
     if (!chart) return;
     // A chain of figures is drawn once, when it stands.
     auto* soon = new QTimer(chart);
@@ -95,6 +108,17 @@ void add_sheet_extras(ScreenWindow& window) {
     QObject::connect(&window, &ScreenWindow::came_up, chart, [&window, chart] {
         if (window.attached()) show_composition(window, *chart);
     });
+    auto* stored = window.findChild<CompositionChart*>(QStringLiteral("schedules"));
+    if (!stored) return;
+    // They change while another screen is up, or with the year.
+    QObject::connect(&window, &ScreenWindow::came_up, stored,
+                     [&session, stored] { show_schedules(session, *stored); });
+    QObject::connect(&window, &ScreenWindow::settled, stored,
+                     [&window, &session, stored, year = session.CurrentFY]() mutable {
+                         if (!window.attached() || year == session.CurrentFY) return;
+                         year = session.CurrentFY;
+                         show_schedules(session, *stored);
+                     });
 }
 
 } // namespace levora::desktop

@@ -70,15 +70,15 @@ CellDesign plain() {
 
 // clang-format off
 constexpr std::array<ScheduleField, 9> fields{{
-    {"Deemed Asset Details",     deemed_asset_list, Ground::plain, FieldStore::text, "DeemedAssetDetails", 46},
-    {"Type of Asset",            type_list,         Ground::plain, FieldStore::text, "TypeOfAsset", 26},
-    {"Name of the other person", fifty_characters,  Ground::plain, FieldStore::text, "NameofOtherPerson", 24},
-    {"Relationship",             fifty_characters,  Ground::plain, FieldStore::text, "Relationship", 14},
-    {"PAN of other person",      pan,               Ground::plain, FieldStore::text, "PANOther", 18},
-    {"Amount",                   amount,            Ground::plain, FieldStore::amount, "DeemedAssetValue", 16},
+    {"Deemed Asset Details",     deemed_asset_list, Ground::plain, FieldStore::text, "DeemedAssetDetails", 30},
+    {"Type of Asset",            type_list,         Ground::plain, FieldStore::text, "TypeOfAsset", 17},
+    {"Name of the other person", fifty_characters,  Ground::plain, FieldStore::text, "NameofOtherPerson", 19},
+    {"Relationship",             fifty_characters,  Ground::plain, FieldStore::text, "Relationship", 13},
+    {"PAN of other person",      pan,               Ground::plain, FieldStore::text, "PANOther", 12},
+    {"Amount",                   amount,            Ground::plain, FieldStore::amount, "DeemedAssetValue", 13},
     {"Details",                  details,           Ground::plain, FieldStore::nothing, "", 10},
-    {"Debt Owed",                debt,              Ground::plain, FieldStore::amount, "DebtOwed", 16},
-    {"Net Amount",               debt,              Ground::grey_and_locked, FieldStore::amount, "NetAmount", 16},
+    {"Debt Owed",                debt,              Ground::plain, FieldStore::amount, "DebtOwed", 13},
+    {"Net Amount",               debt,              Ground::grey_and_locked, FieldStore::amount, "NetAmount", 13},
 }};
 // clang-format on
 

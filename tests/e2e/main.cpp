@@ -10,9 +10,10 @@
 #include <exception>
 #include <filesystem>
 #include <iostream>
+#include <string_view>
 
-// One client from the first figure to the filed return, in real windows. The only argument is the folder
-// for the pictures of the screens.
+// One client from the first figure to the filed return, in real windows. The arguments are the folder for
+// the pictures of the screens, and the palette.
 namespace levora::desktop::testing {
 
 namespace {
@@ -239,14 +240,16 @@ int run(const QString& pictures) {
 } // namespace levora::desktop::testing
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::cerr << "usage: levora_e2e PICTURE_FOLDER\n";
+    if (argc < 2 || argc > 3) {
+        std::cerr << "usage: levora_e2e PICTURE_FOLDER [light|dark]\n";
         return 2;
     }
+    const bool dark = argc == 3 && std::string_view(argv[2]) == "dark";
     int own_argc = 1;
     QApplication application(own_argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationDisplayName(QStringLiteral("Levora Wealth Tax"));
-    levora::desktop::apply_look(application, levora::desktop::Shade::light);
+    levora::desktop::apply_look(application,
+                                dark ? levora::desktop::Shade::dark : levora::desktop::Shade::light);
     return levora::desktop::testing::run(QString::fromLocal8Bit(argv[1]));
 }

@@ -124,9 +124,11 @@ void Person::act(const QStringList& words) {
         throw NotSeen("xdotool " + from_qt(words.join(QLatin1Char(' '))));
 }
 
-void Person::click_at(const QPoint& place) {
-    act({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y()),
-         QStringLiteral("click"), QStringLiteral("1")});
+void Person::click_at(const QPoint& place, const QString& button) {
+    // The display counts in its own pixels.
+    const double scale = look([] { return qApp->devicePixelRatio(); });
+    const auto pixel = [scale](int at) { return QString::number(qRound(at * scale)); };
+    act({QStringLiteral("mousemove"), pixel(place.x()), pixel(place.y()), QStringLiteral("click"), button});
 }
 
 void Person::write(const std::string& text) {
@@ -198,8 +200,7 @@ void Person::click_cell(const char* grid, int column, int row) {
                                                                    : 6);
             return place_of(*view->viewport(), port).center();
         });
-        act({QStringLiteral("mousemove"), QString::number(middle.x()), QString::number(middle.y()),
-             QStringLiteral("click"), button});
+        click_at(middle, button);
         QThread::msleep(glance);
     }
     click_at(look([&] { return cell_place(grid, column, row); }).center());

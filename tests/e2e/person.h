@@ -64,7 +64,7 @@ public:
 private:
     template <class Kind> Kind* find(const char* name) const;
     QRect cell_place(const char* grid, int column, int row) const;
-    void click_at(const QPoint& place);
+    void click_at(const QPoint& place, const QString& button = QStringLiteral("1"));
     void write(const std::string& text);
     void act(const QStringList& words);
 
