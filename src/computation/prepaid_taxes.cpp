@@ -28,7 +28,8 @@ const std::array<PrepaidField, 6>& prepaid_fields() {
         {PrepaidColumn::date_of_deposit, "Date of Deposit", widgets::date_cell({1, 1, 1}, {9999, 12, 31}), 14,
          "DateOfPayment"},
         {PrepaidColumn::challan_number, "Challan Sr. No.", widgets::text_cell(5), 14, "ChallanSrNo"},
-        {PrepaidColumn::amount, "Amount", widgets::number_cell(0, highest_amount, unrounded), 14, "Amount"},
+        {PrepaidColumn::amount, "Amount", widgets::number_cell(0, highest_amount, unrounded, true), 14,
+         "Amount"},
     }};
     return fields;
 }

@@ -39,8 +39,16 @@ void EditHistory::begin_step() {
     run_open_ = false;
 }
 
-void EditHistory::end_step() {
-    if (--depth_ == 0 && !done_.empty() && done_.back().empty()) done_.pop_back();
+bool EditHistory::end_step() {
+    if (--depth_ > 0 || done_.empty()) return false;
+    const bool empty = done_.back().empty();
+    if (empty) done_.pop_back();
+    return !empty;
+}
+
+void EditHistory::take_back(widgets::Form& form, const Told& told) {
+    undo(form, told);
+    undone_.pop_back();
 }
 
 std::vector<Edit> EditHistory::edits() const {
@@ -57,11 +65,13 @@ void EditHistory::clear() {
     run_open_ = false;
 }
 
-int EditHistory::replay(widgets::Form& form, const Step& step, std::string Edit::*from,
-                        std::string Edit::*to) {
+int EditHistory::replay(widgets::Form& form, const Step& step, std::string Edit::*from, std::string Edit::*to,
+                        const Told& told) {
     int left_alone = 0;
+    int done = 0;
     replaying_ = true;
     for (const Edit& edit : step) {
+        if (told) told(done++);
         widgets::Control* control = form.find(edit.control);
         if (!control || text_at(*control, edit.column, edit.row) != edit.*from ||
             !replace_text(*control, edit.column, edit.row, edit.*to))
@@ -71,23 +81,23 @@ int EditHistory::replay(widgets::Form& form, const Step& step, std::string Edit:
     return left_alone;
 }
 
-int EditHistory::undo(widgets::Form& form) {
+int EditHistory::undo(widgets::Form& form, const Told& told) {
     if (done_.empty() || depth_ > 0) return 0;
     run_open_ = false;
     Step step = std::move(done_.back());
     done_.pop_back();
     Step backwards(step.rbegin(), step.rend());
-    const int left_alone = replay(form, backwards, &Edit::after, &Edit::before);
+    const int left_alone = replay(form, backwards, &Edit::after, &Edit::before, told);
     undone_.push_back(std::move(step));
     return left_alone;
 }
 
-int EditHistory::redo(widgets::Form& form) {
+int EditHistory::redo(widgets::Form& form, const Told& told) {
     if (undone_.empty() || depth_ > 0) return 0;
     run_open_ = false;
     Step step = std::move(undone_.back());
     undone_.pop_back();
-    const int left_alone = replay(form, step, &Edit::before, &Edit::after);
+    const int left_alone = replay(form, step, &Edit::before, &Edit::after, told);
     done_.push_back(std::move(step));
     return left_alone;
 }

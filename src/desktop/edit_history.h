@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -23,12 +24,18 @@ struct Edit {
 // consequence follows by itself, as each edit is a person's act again.
 class EditHistory {
 public:
+    // Hears how many edits of a step are replayed.
+    using Told = std::function<void(int done)>;
+
     // Typing on in the same field is one edit.
     void add(Edit edit);
     // Ends the run of typing in a field.
     void end_run() { run_open_ = false; }
     void begin_step();
-    void end_step();
+    // False when nothing was done in the step, or a larger one is still open.
+    bool end_step();
+    // Takes the last step back for good.
+    void take_back(widgets::Form& form, const Told& told);
     void clear();
 
     // What was done and not taken back, in its order.
@@ -39,12 +46,20 @@ public:
 
     // Takes the last step back, does the last one again. Edits whose place holds something else by now
     // are left alone; their number.
-    int undo(widgets::Form& form);
-    int redo(widgets::Form& form);
+    int undo(widgets::Form& form, const Told& told = {});
+    int redo(widgets::Form& form, const Told& told = {});
+    // How many edits the next of these would replay.
+    [[nodiscard]] int edits_to_undo() const {
+        return done_.empty() ? 0 : static_cast<int>(done_.back().size());
+    }
+    [[nodiscard]] int edits_to_redo() const {
+        return undone_.empty() ? 0 : static_cast<int>(undone_.back().size());
+    }
 
 private:
     using Step = std::vector<Edit>;
-    int replay(widgets::Form& form, const Step& step, std::string Edit::*from, std::string Edit::*to);
+    int replay(widgets::Form& form, const Step& step, std::string Edit::*from, std::string Edit::*to,
+               const Told& told);
 
     std::vector<Step> done_;
     std::vector<Step> undone_;

@@ -1,81 +1,134 @@
 #include "desktop/acts.h"
 #include "desktop/grid_view.h"
+#include "desktop/long_work.h"
 #include "desktop/qt_text.h"
+#include "desktop/tabbed_text.h"
 #include "widgets/grid.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QItemSelection>
 
-// Cells to and from the clipboard, as tab-separated lines that spreadsheet programs give and take.
+#include <algorithm>
+
+// Cells to and from the clipboard, as spreadsheet programs give and take them, and what is done to a
+// whole range at once: one step of undo each.
 namespace levora::desktop {
 
-namespace {
-
-struct Rectangle {
+struct GridView::Range {
     int left = 0; // from 1, all bounds within
     int top = 0;
     int right = -1;
     int bottom = -1;
 };
 
-Rectangle selected(const GridView& view) {
-    const QItemSelection selection = view.selectionModel()->selection();
+struct GridView::CellText {
+    int column;
+    int row;
+    std::string text;
+};
+
+namespace {
+
+bool takes_text(const widgets::Grid& grid, int column, int row) {
+    return !grid.cell_locked(column, row) && grid.cell_kind(column, row) != widgets::CellKind::button;
+}
+
+QString counted(int count, const char* one, const char* many) {
+    return count == 0 ? QString()
+                      : QStringLiteral("%1 %2 ").arg(count).arg(GridView::tr(count == 1 ? one : many));
+}
+
+} // namespace
+
+GridView::Range GridView::selected_range() const {
+    const QItemSelection selection = selectionModel()->selection();
     if (selection.isEmpty()) {
-        const QModelIndex at = view.currentIndex();
+        const QModelIndex at = currentIndex();
         return {at.column() + 1, at.row() + 1, at.column() + 1, at.row() + 1};
     }
     const QItemSelectionRange& range = selection.first();
     return {range.left() + 1, range.top() + 1, range.right() + 1, range.bottom() + 1};
 }
 
-bool takes_text(const widgets::Grid& grid, int column, int row) {
-    return !grid.cell_locked(column, row) && grid.cell_kind(column, row) != widgets::CellKind::button;
+void GridView::select_range(const Range& range) {
+    if (!grid_) return;
+    const int right = std::min(range.right, model()->columnCount());
+    const int bottom = std::min(range.bottom, model()->rowCount());
+    const QModelIndex first = model()->index(range.top - 1, range.left - 1);
+    setCurrentIndex(first);
+    selectionModel()->select(QItemSelection(first, model()->index(bottom - 1, right - 1)),
+                             QItemSelectionModel::ClearAndSelect);
 }
 
-QString skipped_words(int locked, int refused) {
-    QString words;
-    if (locked > 0) words = GridView::tr("%n locked cell(s) left as they were.", nullptr, locked);
-    if (refused > 0)
-        words += (words.isEmpty() ? QString() : QStringLiteral(" ")) +
-                 GridView::tr("%n value(s) did not fit their cells.", nullptr, refused);
-    return words;
+std::vector<int> GridView::shown_columns(int from, int to) const {
+    std::vector<int> columns;
+    for (int column = from; column <= std::min(to, grid_->columns()); ++column)
+        if (!grid_->hidden(column)) columns.push_back(column);
+    return columns;
 }
 
-} // namespace
+void GridView::write_cells(const QString& what, const std::vector<CellText>& cells, int without_place) {
+    const Range chosen = selected_range();
+    int locked = 0;
+    int refused = without_place;
+    bool cancelled = false;
+    {
+        LongWork work(this, what, static_cast<int>(cells.size()));
+        acts_->begin_step();
+        int done = 0;
+        for (const CellText& cell : cells) {
+            if (!work.go_on(done++)) {
+                cancelled = true;
+                break;
+            }
+            if (!grid_ || cell.column > grid_->columns() || cell.row > grid_->rows()) {
+                ++refused;
+                continue;
+            }
+            const std::string text =
+                from_qt(cell_text(to_qt(cell.text), grid_->design(cell.column, cell.row)));
+            if (grid_->text(cell.column, cell.row) == text) continue;
+            if (!takes_text(*grid_, cell.column, cell.row))
+                ++locked;
+            else if (!acts_->edit_cell(*grid_, cell.column, cell.row, text))
+                ++refused;
+        }
+        work.settle();
+        if (cancelled)
+            acts_->give_up_step();
+        else
+            acts_->end_step();
+    }
+    select_range(chosen);
+    if (cancelled)
+        acts_->tell(tr("Cancelled: the cells are as they were."));
+    else
+        acts_->tell((counted(locked, "locked cell left as it was.", "locked cells left as they were.") +
+                     counted(refused, "value did not fit its cell.", "values did not fit their cells."))
+                        .trimmed());
+}
 
 void GridView::copy() const {
     if (!grid_) return;
-    const Rectangle range = selected(*this);
-    QStringList lines;
+    const Range range = selected_range();
+    std::vector<QStringList> rows;
     for (int row = range.top; row <= range.bottom; ++row) {
-        QStringList cells;
-        for (int column = range.left; column <= range.right; ++column)
-            if (!grid_->hidden(column)) {
-                QString cell = to_qt(grid_->text(column, row));
-                cells += cell.replace(QLatin1Char('\t'), QLatin1Char(' '))
-                             .replace(QLatin1Char('\n'), QLatin1Char(' '));
-            }
-        lines += cells.join(QLatin1Char('\t'));
+        QStringList& cells = rows.emplace_back();
+        for (const int column : shown_columns(range.left, range.right))
+            cells += to_qt(grid_->text(column, row));
     }
-    QApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+    QApplication::clipboard()->setText(tabbed_text(rows));
 }
 
 void GridView::clear_selected() {
     if (!grid_) return;
-    const Rectangle range = selected(*this);
-    int locked = 0;
-    acts_->begin_step();
-    for (int row = range.top; grid_ && row <= range.bottom; ++row)
-        for (int column = range.left; grid_ && column <= range.right; ++column) {
-            if (grid_->hidden(column) || grid_->text(column, row).empty()) continue;
-            if (!takes_text(*grid_, column, row))
-                ++locked;
-            else
-                acts_->edit_cell(*grid_, column, row, {});
-        }
-    acts_->end_step();
-    acts_->tell(skipped_words(locked, 0));
+    const Range range = selected_range();
+    std::vector<CellText> cells;
+    for (int row = range.top; row <= range.bottom; ++row)
+        for (const int column : shown_columns(range.left, range.right))
+            if (!grid_->text(column, row).empty()) cells.push_back({column, row, {}});
+    write_cells(tr("Clearing cells"), cells);
 }
 
 void GridView::cut() {
@@ -83,71 +136,72 @@ void GridView::cut() {
     clear_selected();
 }
 
+// Rows for what comes are added as by moving on past the last cell, where the grid grows that way.
+void GridView::grow_to(int rows) {
+    LongWork work(this, tr("Adding rows"), rows);
+    while (grid_ && grid_->rows() < rows) {
+        const int before = grid_->rows();
+        if (!acts_->act([this] { grid_->advance(); }) || grid_->rows() == before || !work.go_on(before))
+            return;
+    }
+}
+
 void GridView::paste() {
     if (!grid_) return;
-    QString text = QApplication::clipboard()->text();
-    text.remove(QLatin1Char('\r'));
-    if (text.endsWith(QLatin1Char('\n'))) text.chop(1);
-    if (text.isEmpty()) return;
-    const QStringList lines = text.split(QLatin1Char('\n'));
-    Rectangle range = selected(*this);
-    const bool single = lines.size() == 1 && !lines.first().contains(QLatin1Char('\t'));
-    const int first_column = range.left;
-    int locked = 0;
-    int refused = 0;
-    const auto put = [&](int column, int row, const QString& cell) {
-        if (!grid_ || column > grid_->columns() || row > grid_->rows()) {
-            ++refused;
-            return;
-        }
-        if (to_qt(grid_->text(column, row)) == cell) return;
-        if (!takes_text(*grid_, column, row))
-            ++locked;
-        else if (!acts_->edit_cell(*grid_, column, row, from_qt(cell)))
-            ++refused;
-    };
-    acts_->begin_step();
-    if (single) { // one value goes into every selected cell
-        for (int row = range.top; row <= range.bottom; ++row)
-            for (int column = range.left; column <= range.right; ++column)
-                if (grid_ && !grid_->hidden(column)) put(column, row, lines.first());
-    } else {
-        int row = range.top;
-        for (const QString& line : lines) {
-            int column = first_column;
-            for (const QString& cell : line.split(QLatin1Char('\t'))) {
-                while (grid_ && column <= grid_->columns() && grid_->hidden(column))
-                    ++column;
-                put(column++, row, cell);
-            }
-            ++row;
+    std::vector<QStringList> given = tabbed_rows(QApplication::clipboard()->text());
+    if (given.empty()) return;
+    Range range = selected_range();
+    const auto widest = std::max_element(given.begin(), given.end(), [](const auto& left, const auto& right) {
+        return left.size() < right.size();
+    });
+    const int width = static_cast<int>(widest->size());
+    const int height = static_cast<int>(given.size());
+    const int chosen_width = static_cast<int>(shown_columns(range.left, range.right).size());
+    const int chosen_height = range.bottom - range.top + 1;
+    // What fits a larger selection several times fills it.
+    const int across = chosen_width % width == 0 ? std::max(1, chosen_width / width) : 1;
+    const int down = chosen_height % height == 0 ? std::max(1, chosen_height / height) : 1;
+
+    const int last_row = range.top + height * down - 1;
+    if (last_row > grid_->rows()) {
+        grow_to(last_row);
+        if (!grid_) return;
+    }
+    const std::vector<int> columns = shown_columns(range.left, grid_->columns());
+    std::vector<CellText> cells;
+    int without_place = 0;
+    for (int line = 0; line < height * down; ++line) {
+        const QStringList& source = given[static_cast<std::size_t>(line % height)];
+        for (int at = 0; at < width * across; ++at) {
+            if (at % width >= source.size()) continue;
+            const std::string text = from_qt(source[at % width]);
+            if (static_cast<std::size_t>(at) < columns.size() && range.top + line <= grid_->rows())
+                cells.push_back({columns[static_cast<std::size_t>(at)], range.top + line, text});
+            else
+                without_place += text.empty() ? 0 : 1;
         }
     }
-    acts_->end_step();
-    acts_->tell(skipped_words(locked, refused));
+    range.bottom = last_row;
+    if (!columns.empty())
+        range.right = columns[std::min(columns.size(), static_cast<std::size_t>(width * across)) - 1];
+    select_range(range);
+    write_cells(tr("Pasting cells"), cells, without_place);
 }
 
 void GridView::fill_down() {
     if (!grid_) return;
-    const Rectangle range = selected(*this);
-    if (range.bottom == range.top) {
+    const Range range = selected_range();
+    // A single row is filled from the one above it.
+    const int source = range.bottom == range.top ? range.top - 1 : range.top;
+    if (source < 1) {
         acts_->tell(tr("Select the rows to fill first."));
         return;
     }
-    int locked = 0;
-    int refused = 0;
-    acts_->begin_step();
-    for (int column = range.left; column <= range.right; ++column)
-        for (int row = range.top + 1; grid_ && row <= range.bottom; ++row) {
-            const std::string source = grid_->text(column, range.top);
-            if (grid_->hidden(column) || source == grid_->text(column, row)) continue;
-            if (!takes_text(*grid_, column, row))
-                ++locked;
-            else if (!acts_->edit_cell(*grid_, column, row, source))
-                ++refused;
-        }
-    acts_->end_step();
-    acts_->tell(skipped_words(locked, refused));
+    std::vector<CellText> cells;
+    for (const int column : shown_columns(range.left, range.right))
+        for (int row = source + 1; row <= range.bottom; ++row)
+            cells.push_back({column, row, grid_->text(column, source)});
+    write_cells(tr("Filling cells"), cells);
 }
 
 } // namespace levora::desktop

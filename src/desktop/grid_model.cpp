@@ -13,13 +13,50 @@ namespace levora::desktop {
 using widgets::CellKind;
 using widgets::Grid;
 
+namespace {
+
+// "-1234.5", nothing before or behind it.
+bool is_plain_figure(const std::string& text) {
+    std::size_t at = text.starts_with('-') ? 1 : 0;
+    const auto digits = [&text, &at] {
+        const std::size_t begin = at;
+        while (at < text.size() && text[at] >= '0' && text[at] <= '9')
+            ++at;
+        return at > begin;
+    };
+    if (!digits()) return false;
+    if (at < text.size() && text[at] == '.') {
+        ++at;
+        if (!digits()) return false;
+    }
+    return at == text.size();
+}
+
+bool stands_right(const Grid& grid, int column, int row) {
+    const widgets::CellDesign& design = grid.design(column, row);
+    switch (design.kind) {
+    case CellKind::number:
+    case CellKind::percent:
+        return true;
+    case CellKind::text:
+        return design.figure && is_plain_figure(grid.text(column, row));
+    case CellKind::combo:
+        return is_plain_figure(grid.text(column, row));
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
 std::string shown_text(const Grid& grid, int column, int row) {
     const std::string& text = grid.text(column, row);
     const widgets::CellDesign& design = grid.design(column, row);
     if (design.kind == CellKind::check) return design.caption;
-    if (text.empty()) return text;
-    if (design.kind == CellKind::number && design.grouped) return group_indian_text(text);
-    return text;
+    const bool grouped = design.kind == CellKind::number
+                             ? design.grouped
+                             : (design.figure || design.kind == CellKind::button) && is_plain_figure(text);
+    return grouped ? group_indian_text(text) : text;
 }
 
 GridModel::GridModel(const Grid& grid, QObject* parent)
@@ -45,7 +82,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     case Qt::EditRole:
         return to_qt(grid_->text(column, row));
     case Qt::TextAlignmentRole: {
-        const bool figure = kind == CellKind::number || kind == CellKind::percent;
+        const bool figure = stands_right(*grid_, column, row);
         const bool centred = kind == CellKind::button;
         return QVariant((figure    ? Qt::AlignRight
                          : centred ? Qt::AlignHCenter

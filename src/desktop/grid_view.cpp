@@ -2,6 +2,7 @@
 
 #include "desktop/acts.h"
 #include "desktop/cell_delegate.h"
+#include "desktop/grid_header.h"
 #include "desktop/grid_model.h"
 #include "desktop/key_names.h"
 #include "desktop/qt_text.h"
@@ -11,7 +12,6 @@
 #include <QComboBox>
 #include <QContextMenuEvent>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -27,11 +27,13 @@ using widgets::Grid;
 
 namespace {
 constexpr int row_height = 24;
-constexpr int cell_padding = 14;
-constexpr double default_width_characters = 10; // of a grid that tells no width
-} // namespace
+}
 
-GridView::GridView(QWidget* parent) : QTableView(parent) {
+GridView::GridView(QWidget* parent)
+    : QTableView(parent), column_header_(new GridHeader(Qt::Horizontal, this)),
+      row_header_(new GridHeader(Qt::Vertical, this)) {
+    setHorizontalHeader(column_header_);
+    setVerticalHeader(row_header_);
     setItemDelegate(new CellDelegate(*this));
     setEditTriggers(NoEditTriggers);
     setSelectionMode(ContiguousSelection);
@@ -39,12 +41,21 @@ GridView::GridView(QWidget* parent) : QTableView(parent) {
     setMouseTracking(true);
     setTabKeyNavigation(false);
     setWordWrap(false);
-    verticalHeader()->setDefaultSectionSize(row_height);
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    horizontalHeader()->setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
-    horizontalHeader()->setHighlightSections(false);
-    verticalHeader()->setHighlightSections(false);
+    row_header_->setMinimumSectionSize(row_height - 4);
+    row_header_->setDefaultSectionSize(row_height);
+    row_header_->setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    column_header_->setDefaultAlignment(Qt::AlignCenter | static_cast<Qt::Alignment>(Qt::TextWordWrap));
+    connect(column_header_, &GridHeader::sized_by_hand, this, &GridView::kept_by_hand);
+    connect(column_header_, &GridHeader::fit_wanted, this, &GridView::fit_column);
+    connect(row_header_, &GridHeader::sized_by_hand, this, [this](int section) {
+        hand_heights_[section] = row_header_->sectionSize(section);
+        keep_sizes();
+    });
+    connect(row_header_, &GridHeader::fit_wanted, this, [this](int section) {
+        hand_heights_.remove(section);
+        row_header_->resizeSection(section, row_height);
+        keep_sizes();
+    });
 }
 
 void GridView::attach(Grid& grid, Acts& acts) {
@@ -60,6 +71,7 @@ void GridView::attach(Grid& grid, Acts& acts) {
         corner_->setAttribute(Qt::WA_TransparentForMouseEvents);
         layout->addWidget(corner_);
     }
+    restore_sizes();
     apply_structure();
     select_active();
 }
@@ -101,63 +113,6 @@ void GridView::structure_changed() {
     horizontalHeader()->viewport()->update();
 }
 
-void GridView::paintEvent(QPaintEvent* event) {
-    if (structure_dirty_) apply_structure();
-    QTableView::paintEvent(event);
-}
-
-void GridView::apply_structure() {
-    structure_dirty_ = false;
-    if (!grid_) return;
-    size_columns();
-    model_->headers_changed();
-    if (corner_) corner_->setText(to_qt(grid_->header(0)));
-    int widest = fontMetrics().horizontalAdvance(QString::number(grid_->rows()));
-    for (int row = 1; row <= grid_->rows(); ++row) {
-        const std::string header = grid_->row_header(row);
-        if (header.size() > 4) widest = std::max(widest, fontMetrics().horizontalAdvance(to_qt(header)));
-    }
-    if (corner_) widest = std::max(widest, fontMetrics().horizontalAdvance(corner_->text()) + 8);
-    if (verticalHeader()->width() != widest + cell_padding)
-        verticalHeader()->setFixedWidth(widest + cell_padding);
-}
-
-void GridView::size_columns() {
-    QHeaderView* header = horizontalHeader();
-    const int character = fontMetrics().horizontalAdvance(QLatin1Char('0'));
-    for (int column = 1; column <= grid_->columns(); ++column) {
-        const int section = column - 1;
-        if (header->isSectionHidden(section) != grid_->hidden(column))
-            setColumnHidden(section, grid_->hidden(column));
-        const double told = grid_->column_width(column);
-        const double characters = told > 0 ? told : default_width_characters;
-        const int width = static_cast<int>(characters * character) + cell_padding;
-        if (grid_->hidden(column) || told_widths_.value(section) == width) continue;
-        // A width that a person gave by hand stays until the grid tells another.
-        told_widths_[section] = width;
-        header->resizeSection(section, width);
-    }
-    size_header(character);
-}
-
-// Long headers take as many lines as they need.
-void GridView::size_header(int character) {
-    QHeaderView* header = horizontalHeader();
-    QFont bold = header->font();
-    bold.setBold(true);
-    const QFontMetrics metrics(bold);
-    int height = row_height;
-    for (int column = 1; column <= grid_->columns(); ++column) {
-        const QString words = to_qt(grid_->header(column));
-        const int room = header->sectionSize(column - 1) - cell_padding;
-        if (grid_->hidden(column) || words.size() * character < room) continue;
-        const QRect needed =
-            metrics.boundingRect(0, 0, std::max(room, 1), 400, Qt::TextWordWrap | Qt::AlignCenter, words);
-        height = std::max(height, needed.height() + 10);
-    }
-    if (header->minimumHeight() != height) header->setFixedHeight(height);
-}
-
 void GridView::select_active() {
     if (!grid_) return;
     const QModelIndex active = model_->index(grid_->active_row() - 1, grid_->active_column() - 1);
@@ -167,6 +122,7 @@ void GridView::select_active() {
 void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     QTableView::currentChanged(current, previous);
     if (previous.isValid()) update(previous);
+    if (!extending_) anchor_ = current;
     if (!grid_ || !current.isValid()) return;
     update(current);
     grid_->set_active(current.column() + 1, current.row() + 1);
@@ -252,7 +208,9 @@ void GridView::keyPressEvent(QKeyEvent* event) {
         return;
     }
     if (selection_key(*event)) {
+        extending_ = event->modifiers() & Qt::ShiftModifier;
         QTableView::keyPressEvent(event);
+        extending_ = false;
         return;
     }
     const int column = grid_->active_column();
@@ -287,9 +245,12 @@ void GridView::keyPressEvent(QKeyEvent* event) {
         const int before = changes_;
         const std::string held = grid_->text(column, row);
         press(name);
+        if (!grid_ || held.empty()) return;
         // A grid without a rule of its own for this key: the cell is emptied as by typing.
-        if (grid_ && changes_ == before && !held.empty() && !grid_->cell_locked(column, row))
+        if (changes_ == before && !grid_->cell_locked(column, row))
             commit(column, row, {});
+        else
+            acts_->keep_edit(*grid_, column, row, held);
         return;
     }
     press(name);

@@ -2,6 +2,7 @@
 
 #include "desktop/form_loader.h"
 #include "desktop/grid_view.h"
+#include "desktop/long_work.h"
 #include "desktop/person.h"
 #include "desktop/qt_text.h"
 #include "widgets/fields.h"
@@ -257,6 +258,17 @@ bool ScreenWindow::edit_cell(widgets::Grid& grid, int column, int row, const std
     return done;
 }
 
+void ScreenWindow::keep_edit(const widgets::Grid& grid, int column, int row, const std::string& before) {
+    history_.add({grid.name(), column, row, before, text_at(grid, column, row)});
+}
+
+void ScreenWindow::give_up_step() {
+    if (!history_.end_step() || !attached()) return;
+    LongWork work(this, tr("Taking back"), history_.edits_to_undo());
+    work.settle();
+    act([this, &work] { history_.take_back(*form_, [&work](int done) { work.go_on(done); }); });
+}
+
 void ScreenWindow::take_inside(ScreenWindow& other) {
     auto* place = centralWidget()->findChild<QWidget*>(QStringLiteral("inside"));
     if (!place || !place->layout()) return;
@@ -271,7 +283,11 @@ void ScreenWindow::undo() {
     int left_alone = 0;
     if (!history_.can_undo()) {
         tell(tr("There is nothing to take back."));
-    } else if (act([&] { left_alone = history_.undo(*form_); })) {
+    } else if (act([&] {
+                   LongWork work(this, tr("Taking back"), history_.edits_to_undo());
+                   work.settle();
+                   left_alone = history_.undo(*form_, [&work](int done) { work.go_on(done); });
+               })) {
         tell(left_alone == 0 ? tr("Taken back.")
                              : tr("Some places have changed since and stay as they are."));
     }
@@ -282,7 +298,11 @@ void ScreenWindow::redo() {
     int left_alone = 0;
     if (!history_.can_redo()) {
         tell(tr("There is nothing to do again."));
-    } else if (act([&] { left_alone = history_.redo(*form_); })) {
+    } else if (act([&] {
+                   LongWork work(this, tr("Doing again"), history_.edits_to_redo());
+                   work.settle();
+                   left_alone = history_.redo(*form_, [&work](int done) { work.go_on(done); });
+               })) {
         tell(left_alone == 0 ? tr("Done again.")
                              : tr("Some places have changed since and stay as they are."));
     }

@@ -58,8 +58,10 @@ public:
     bool act(const std::function<void()>& what) override;
     void tell(const QString& words) override;
     bool edit_cell(widgets::Grid& grid, int column, int row, const std::string& text) override;
+    void keep_edit(const widgets::Grid& grid, int column, int row, const std::string& before) override;
     void begin_step() override { history_.begin_step(); }
     void end_step() override { history_.end_step(); }
+    void give_up_step() override;
 
 signals:
     // A person asks for the end of the screen by its close box.

@@ -27,7 +27,7 @@ CellDesign ratio() {
     return widgets::number_cell(0, 100, 1);
 }
 CellDesign amount() {
-    return widgets::number_cell(0, 99999999, 0);
+    return widgets::number_cell(0, 99999999, 0, true);
 }
 
 // clang-format off

@@ -18,7 +18,9 @@ CellDesign description() {
     return widgets::text_cell(600);
 }
 CellDesign weight() {
-    return widgets::text_cell(60);
+    CellDesign design = widgets::text_cell(60);
+    design.figure = true;
+    return design;
 }
 CellDesign value() {
     return widgets::number_cell(-9999999999999, 9999999999999, 0, true);

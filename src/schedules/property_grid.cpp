@@ -114,8 +114,12 @@ widgets::CellDesign design_of(const PropertyItem& item) {
     case CellKind::date:
         return widgets::date_cell(first_report, last_report);
     default:
-        return widgets::text_cell(item.field == PropertyField::number ? debt_characters : 0);
+        break;
     }
+    const bool figure = item.field == PropertyField::number;
+    widgets::CellDesign text = widgets::text_cell(figure ? debt_characters : 0);
+    text.figure = figure;
+    return text;
 }
 
 } // namespace

@@ -25,6 +25,7 @@ std::string_view name_of(CellKind kind); // "text", "number", ... as scripts see
 struct CellDesign {
     CellKind kind = CellKind::text;
     int max_chars = 0;                                  // text: 0 is no limit
+    bool figure = false;                                // text: read as a number, shown like one
     double min = std::numeric_limits<double>::lowest(); // number; percent as a fraction
     double max = std::numeric_limits<double>::max();    //
     int decimals = 0;               // number, percent of the shown figure; -1 rounds nothing

@@ -2,7 +2,10 @@
 
 #include <QClipboard>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
+#include <QScrollBar>
+#include <QSettings>
 #include <QStatusBar>
 
 namespace levora::desktop::testing {
@@ -136,6 +139,37 @@ TEST_F(GridViewTest, APasteIsOneStepAndTellsWhatDidNotFit) {
     EXPECT_EQ(grid().text(6, 2), "50");
 }
 
+TEST_F(GridViewTest, AStepThatIsGivenUpLeavesNothingBehind) {
+    grid().type(6, 2, "7");
+    ScreenWindow& sheet = window("frmWealthMain");
+    sheet.begin_step();
+    sheet.edit_cell(grid(), 1, 1, "SBI");
+    sheet.edit_cell(grid(), 6, 2, "10");
+    sheet.give_up_step();
+    EXPECT_EQ(rows(3), "|||||\n|||||7\n|||||\n");
+    EXPECT_EQ(text("txtPrepaidTax"), "7");
+    EXPECT_FALSE(sheet.history().can_undo() || sheet.history().can_redo());
+}
+
+TEST_F(GridViewTest, ACopiedRowFillsEverySelectedRowAndStaysSelected) {
+    QApplication::clipboard()->setText(QStringLiteral("SBI\tFort\n"));
+    select(1, 1, 2, 3);
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(rows(4), "SBI|Fort||||\nSBI|Fort||||\nSBI|Fort||||\n|||||\n");
+    EXPECT_EQ(view().selected_cells(), 6);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(rows(2), "|||||\n|||||\n");
+}
+
+TEST_F(GridViewTest, ADeletedCellCanBeTakenBack) {
+    grid().type(1, 1, "SBI");
+    grid().set_active(1, 1);
+    press(Qt::Key_Delete);
+    EXPECT_EQ(grid().text(1, 1), "");
+    window("frmWealthMain").undo();
+    EXPECT_EQ(grid().text(1, 1), "SBI");
+}
+
 TEST_F(GridViewTest, FillDownCopiesTheFirstRowOfTheRange) {
     grid().type(1, 1, "SBI");
     grid().type(6, 1, "10");
@@ -170,6 +204,66 @@ TEST_F(AssetsGridTest, ColumnsComeAndGoWithTheCountAndLabelsAreLocked) {
     EXPECT_TRUE(ground.isValid());
 }
 
+TEST_F(AssetsGridTest, LabelsStayInViewAndASelectionCanBeginOnThem) {
+    show("frmImmovable");
+    control<widgets::ListField>("frmImmovable", "cboNumberOfProperty").type("9");
+    view().grab();
+    const QModelIndex label = view().model()->index(2, 0);
+    const QRect place = view().visualRect(label);
+    grid().set_active(9, 3);
+    EXPECT_GT(view().horizontalScrollBar()->value(), 0);
+    EXPECT_EQ(view().visualRect(label), place);
+    EXPECT_EQ(view().indexAt(place.center()), label);
+    EXPECT_GE(view().visualRect(view().model()->index(2, 8)).left(), place.right());
+    // Left as far as it goes: the cell comes out from beneath the labels.
+    view().setFocus();
+    for (int steps = 0; steps < 7; ++steps)
+        key(view(), Qt::Key_Left);
+    EXPECT_GE(view().visualRect(view().model()->index(2, 1)).left(), place.right());
+    grid().set_active(9, 3);
+    QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, place.center());
+    key(view(), Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(view().selected_cells(), 2);
+}
+
+TEST_F(AssetsGridTest, AWidthGivenByHandIsThereAgainAtTheNextStart) {
+    show("frmImmovable");
+    view().grab();
+    QWidget* header = view().horizontalHeader()->viewport();
+    const int before = view().columnWidth(1);
+    const QPoint edge(view().columnViewportPosition(1) + before - 1, 8);
+    QTest::mousePress(header, Qt::LeftButton, Qt::NoModifier, edge);
+    QTest::mouseMove(header, edge + QPoint(20, 0));
+    QTest::mouseMove(header, edge + QPoint(40, 0));
+    QTest::mouseRelease(header, Qt::LeftButton, Qt::NoModifier, edge + QPoint(40, 0));
+    EXPECT_EQ(view().columnWidth(1), before + 40);
+    run->program().session().screens.unload("frmImmovable");
+    QApplication::processEvents();
+    show("frmImmovable");
+    view().grab();
+    EXPECT_EQ(view().columnWidth(1), before + 40);
+    // A double click on the edge fits what stands there.
+    QTest::mouseDClick(view().horizontalHeader()->viewport(), Qt::LeftButton, Qt::NoModifier,
+                       QPoint(view().columnViewportPosition(1) + before + 39, 8));
+    EXPECT_NE(view().columnWidth(1), before + 40);
+    QSettings().remove(QStringLiteral("columns"));
+}
+
+TEST_F(AssetsGridTest, APasteBringsTheRowsThatItNeeds) {
+    show("frmImmovable");
+    auto& firms = widget<GridView>("frmImmovable", "sprAssetInterest");
+    auto& grid = control<widgets::Grid>("frmImmovable", "sprAssetInterest");
+    ASSERT_EQ(grid.rows(), 5);
+    QStringList lines;
+    for (int firm = 1; firm <= 7; ++firm)
+        lines += QStringLiteral("Firm %1").arg(firm);
+    QApplication::clipboard()->setText(lines.join(QStringLiteral("\r\n")));
+    grid.set_active(1, 1);
+    firms.paste();
+    EXPECT_EQ(grid.rows(), 7);
+    EXPECT_EQ(grid.text(1, 7), "Firm 7");
+}
+
 TEST_F(AssetsGridTest, EnteringAListThatIsTypedInSelectsAllOfIt) {
     show("frmImmovable");
     auto& count = widget<QComboBox>("frmImmovable", "cboNumberOfProperty");
@@ -198,6 +292,10 @@ TEST_F(AssetsGridTest, FiguresAreGroupedAndStandRightAndLockedCellsAreSkippedByA
                     ->findChild<QLabel*>()
                     ->text()
                     .contains(QStringLiteral("1 locked")));
+    grid().type(2, 28, "140000"); // a text that is read as a number
+    EXPECT_EQ(view().model()->index(27, 1).data().toString(), QStringLiteral("1,40,000"));
+    EXPECT_TRUE(view().model()->index(27, 1).data(Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
+    EXPECT_EQ(grid().text(2, 28), "140000");
 }
 
 TEST_F(AssetsGridTest, AListCellOffersItsItemsAndTakesTheChosenOne) {

@@ -1,0 +1,47 @@
+#include "desktop/long_work.h"
+
+#include <QApplication>
+#include <QProgressDialog>
+
+#include <utility>
+
+namespace levora::desktop {
+
+namespace {
+constexpr qint64 patience_milliseconds = 500;
+constexpr qint64 between_looks_milliseconds = 50;
+} // namespace
+
+LongWork::LongWork(QWidget* over, QString what, int of) : over_(over), what_(std::move(what)), of_(of) {
+    since_.start();
+}
+
+LongWork::~LongWork() = default;
+
+bool LongWork::go_on(int done) {
+    const qint64 now = since_.elapsed();
+    if (now < patience_milliseconds || now - shown_at_ < between_looks_milliseconds)
+        return !box_ || settled_ || !box_->wasCanceled();
+    if (!box_) {
+        box_ = std::make_unique<QProgressDialog>(what_, settled_ ? QString() : QObject::tr("Cancel"), 0, of_,
+                                                 over_ ? over_->window() : nullptr);
+        box_->setObjectName(QStringLiteral("long_work"));
+        box_->setWindowModality(Qt::ApplicationModal);
+        box_->setMinimumDuration(0);
+        box_->setAutoReset(false);
+        box_->setAutoClose(false);
+        box_->show();
+    }
+    shown_at_ = now;
+    box_->setValue(done);
+    // Nothing but the box takes part: it stands over all windows of the program.
+    QApplication::processEvents();
+    return settled_ || !box_->wasCanceled();
+}
+
+void LongWork::settle() {
+    settled_ = true;
+    if (box_) box_->setCancelButton(nullptr);
+}
+
+} // namespace levora::desktop
