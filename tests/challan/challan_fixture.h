@@ -1,8 +1,7 @@
 #pragma once
 
 #include "challan/challan282.h"
-#include "session/data_folder.h"
-#include "widgets/headless_desk.h"
+#include "session/fresh_start.h"
 
 #include <gtest/gtest.h>
 
@@ -12,32 +11,29 @@
 namespace levora::challan {
 
 // Assessee 17 on empty stores, with two banks of the suite's list; today is 16/09/2014.
-class ChallanTest : public testing::Test {
+class ChallanTest : public testing::Test, protected session::testing::FreshStart {
 protected:
     ChallanTest() {
         session.AssesseeNo = 17;
         session.CurrentFY = "2014-2015";
-        session.AssesseeDb.open(data.connect_string(session::Store::assessee));
-        session.FormsDb.open(data.connect_string(session::Store::forms));
+        session.AssesseeDb.open(folder.connect_string(session::Store::assessee));
+        session.FormsDb.open(folder.connect_string(session::Store::forms));
         desk.set_today({2014, 9, 16});
         session.screens.define("frmChallan282", [this] { return std::make_unique<frmChallan282>(session); });
-        data.run(session::Store::assessee,
-                 "INSERT INTO AICustomisedItems (ItemGroup, Item, OtherInfo1, SrNo) "
-                 "VALUES ('Bank', 'Second Bank', '0220002', 2)");
-        data.run(session::Store::assessee,
-                 "INSERT INTO AICustomisedItems (ItemGroup, Item, OtherInfo1, SrNo) "
-                 "VALUES ('Bank', 'First Bank', '0110001', 1)");
+        run(session::Store::assessee,
+            "INSERT INTO AICustomisedItems (ItemGroup, Item, OtherInfo1, SrNo) VALUES "
+            "('Bank', 'Second Bank', '0220002', 2), ('Bank', 'First Bank', '0110001', 1)");
     }
 
     frmChallan282& screen() { return session.screens.get<frmChallan282>("frmChallan282"); }
     bool close() { return session.screens.close("frmChallan282"); }
     void stored(const std::string& year, const std::string& date, const std::string& type, int total,
                 const std::string& instalment = "Null") {
-        data.run(session::Store::forms,
-                 "INSERT INTO Challan (AssesseeNo, AY, ChallanNo, ChallanDate, TaxApplicable, TypeOfPayment, "
-                 "InstallmentNo, IncomeTax, Total) VALUES (17, '" +
-                     year + "', 'ITNS282', " + date + ", 7, '" + type + "', " + instalment + ", " +
-                     std::to_string(total) + ", " + std::to_string(total) + ")");
+        run(session::Store::forms,
+            "INSERT INTO Challan (AssesseeNo, AY, ChallanNo, ChallanDate, TaxApplicable, TypeOfPayment, "
+            "InstallmentNo, IncomeTax, Total) VALUES (17, '" +
+                year + "', 'ITNS282', " + date + ", 7, '" + type + "', " + instalment + ", " +
+                std::to_string(total) + ", " + std::to_string(total) + ")");
     }
     // The list as a person sees it, its row keys behind.
     std::string list() {
@@ -64,10 +60,7 @@ protected:
         return text;
     }
 
-    session::testing::DataFolder data;
-    session::Settings settings{data.path() + "/settings.toml"};
-    widgets::HeadlessDesk desk;
-    session::Session session{{desk, settings, data.path(), "", "TEST"}};
+    session::Session& session = new_session("");
 };
 
 } // namespace levora::challan

@@ -46,27 +46,24 @@ TEST_F(DueDateTest, WantedOnlyTheFilingDateRoundsTheInterest) {
     EXPECT_EQ(sheet().txtTaxIntPayable.text(), "1270");
 }
 
-TEST_F(DueDateTest, HalfARupeeGoesToTheEvenOne) {
-    sheet().mskDueDate.type("31/07/2014");
-    sheet().mskRetDate.type("01/08/2014"); // 1 month
-    sheet().txtAssetsSec2ea.set_text("3125000");
-    EXPECT_EQ(sheet().txtInterest.text(), "12") << "12.5";
-    sheet().txtAssetsSec2ea.set_text("3135000");
-    EXPECT_EQ(sheet().txtInterest.text(), "14") << "13.5";
-}
-
-TEST_F(DueDateTest, AnIncompleteDateTakesTheInterestAway) {
-    sheet().mskRetDate.type("15/11/2014");
-    EXPECT_EQ(sheet().txtInterest.text(), "25");
-    sheet().mskDueDate.type("30/09");
-    EXPECT_EQ(sheet().txtInterest.text(), "");
-    EXPECT_EQ(sheet().txtTaxIntPayable.text(), "1234");
-}
-
-TEST_F(DueDateTest, NoTaxGivesAnInterestOfNought) {
-    sheet().mskRetDate.type("15/11/2014");
-    sheet().txtAssetsSec2ea.set_text("0");
-    EXPECT_EQ(sheet().txtInterest.text(), "0");
+TEST_F(DueDateTest, AChangedTaxBringsWholeRupeesOfInterest) {
+    struct Case {
+        const char *why, *due, *filed, *assets, *interest, *payable;
+    };
+    constexpr Case cases[] = {
+        {"12.5 goes to the even rupee", "31/07/2014", "01/08/2014", "3125000", "12", "1262"},
+        {"so does 13.5", "31/07/2014", "01/08/2014", "3135000", "14", "1364"},
+        {"no tax", "31/07/2014", "01/08/2014", "0", "0", "0"},
+        {"an open date takes the interest away", "30/09", "15/11/2014", "3123400", "", "1234"},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.why);
+        sheet().mskDueDate.type(each.due);
+        sheet().mskRetDate.type(each.filed);
+        sheet().txtAssetsSec2ea.set_text(each.assets);
+        EXPECT_EQ(sheet().txtInterest.text(), each.interest);
+        EXPECT_EQ(sheet().txtTaxIntPayable.text(), each.payable);
+    }
 }
 
 TEST_F(DueDateTest, WantedATickLooksAtNoTableAndRunsTheDatesInOrder) {

@@ -69,41 +69,26 @@ TEST_F(ReportsTest, TheTotalInWordsOverItsBoxes) {
 }
 
 TEST_F(ReportsTest, TheSecuritiesTransactionTaxHasATickAFinancialYearAndNoName) {
+    settings.write(session::registry::levora_forms, "Challan282 Top Margin", "7.5");
+    settings.write(session::registry::levora_forms, "Challan282 Left Margin", "x");
     start();
     click_on_sheet("cmdChallan");
     challan().optSecTranTax.click();
     challan().cboAssessmentYear.choose("2012-2013");
     challan().chkPANBarCode.click();
+    challan().txtTotal.set_text("twelve"); // no whole number for the words: one blank, and the preview stands
     challan().cmdPreview.click();
+    EXPECT_EQ(boxes() + "|" + logged(), "13 Type mismatch|Challan282 - secChallan282Data_Format");
     const document::Report& report = previewed();
+    EXPECT_EQ(report.text("txtFoilWords") + "|" + report.text("txtFoilTotal"), "|twelve");
     EXPECT_EQ(report.text("tickSecTranTax"), document::tick);
     EXPECT_EQ(report.text("lblTaxName"), "");
     EXPECT_EQ(report.text("txtFoilFY") + "|" + report.text("txtFoilAY"), "2011-2012|");
     EXPECT_EQ(report.text("txtPANBarCode") + report.text("txtPANUnderBar"), "");
     EXPECT_EQ(report.text("txtChqDate"), "") << "an empty mask prints nothing";
-}
-
-TEST_F(ReportsTest, ThePreviewTakesItsMarginsFromTheSettings) {
-    settings.write(session::registry::levora_forms, "Challan282 Top Margin", "7.5");
-    settings.write(session::registry::levora_forms, "Challan282 Left Margin", "x");
-    start();
-    click_on_sheet("cmdChallan");
-    challan().cmdPreview.click();
-    EXPECT_EQ(previewed().top_margin_twips, 425); // 425.25
-    EXPECT_EQ(previewed().left_margin_twips, 0);
-    EXPECT_FALSE(previewed().suppressed("SecChallan282Form"));
-}
-
-TEST_F(ReportsTest, OneBadFieldLeavesOneBlankAndThePreviewStands) {
-    start();
-    click_on_sheet("cmdChallan");
-    challan().txtChequeNo.type("77");
-    challan().txtTotal.set_text("twelve"); // no whole number for the words
-    challan().cmdPreview.click();
-    EXPECT_EQ(boxes(), "13 Type mismatch");
-    EXPECT_EQ(logged(), "Challan282 - secChallan282Data_Format");
-    EXPECT_EQ(previewed().text("txtFoilWords"), "");
-    EXPECT_EQ(previewed().text("txtFoilTotal"), "twelve");
+    EXPECT_EQ(report.top_margin_twips, 425) << "425.25";
+    EXPECT_EQ(report.left_margin_twips, 0);
+    EXPECT_FALSE(report.suppressed("SecChallan282Form"));
 }
 
 } // namespace

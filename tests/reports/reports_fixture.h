@@ -7,15 +7,12 @@
 #include "reports/print_dialog.h"
 #include "return/complete_return.h"
 #include "return/return_screen.h"
-#include "session/data_folder.h"
-#include "session/settings.h"
+#include "session/fresh_start.h"
 #include "widgets/fields.h"
-#include "widgets/headless_desk.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <string>
 #include <vector>
@@ -25,14 +22,11 @@ namespace levora::reports {
 using session::Store;
 
 // The whole program on an empty data folder for assessee 17; what goes to the printer is kept.
-class ReportsTest : public testing::Test {
+class ReportsTest : public testing::Test, protected session::testing::FreshStart {
 protected:
     ReportsTest() {
-        settings.write(session::registry::shared, "LVDBPath", folder.path());
         std::filesystem::create_directory_symlink(LEVORA_BIN "/Report", folder.path() + "/Report");
-        desk.set_today({2014, 9, 15});
-        folder.run(
-            Store::assessee,
+        run(Store::assessee,
             "INSERT INTO AssesseeInfo (AssesseeNo, Assessee_Name, Office_Name, Father_Name, Address1, "
             "Address3, City, District, PIN, ResAddress1, ResCity, PAN, Status, Sex, Ward, Date_of_Birth) "
             "VALUES (17, 'Asha Rao', 'Rao & Sons', 'K Rao', '12', 'MG Road', 'PUNE', 'Pune', '411001', "
@@ -41,7 +35,7 @@ protected:
 
     void start(const std::string& line = "2014-2015 17 Individual x 0") {
         program = std::make_unique<program::Program>(
-            session::Surroundings{desk, settings, folder.path(), line, "TEST"});
+            session::Surroundings{desk, settings, folder.path(), line, machine_name});
         program->session().print_report = [this](const std::shared_ptr<document::Report>& report) {
             printed.push_back(report);
         };
@@ -66,22 +60,6 @@ protected:
         if (!preview || !preview->report()) throw std::runtime_error("no preview: " + boxes());
         return *preview->report();
     }
-    std::string boxes() {
-        std::string text;
-        for (const auto& shown : desk.take_messages())
-            text += (text.empty() ? "" : "|") + shown.box.text;
-        return text;
-    }
-    // The procedures that the error log names, a bar between.
-    std::string logged() const {
-        std::ifstream file(folder.path() + "/ErrorLog.txt");
-        std::string all;
-        for (std::string line; std::getline(file, line);) {
-            const std::size_t from = line.find('"') + 1;
-            all += (all.empty() ? "" : "|") + line.substr(from, line.find('"', from) - from);
-        }
-        return all;
-    }
     // All objects that hold a text, in the order of the layout, a tick as "[x]".
     static std::string filled(const document::Report& report) {
         std::string all;
@@ -105,9 +83,6 @@ protected:
         return all;
     }
 
-    session::testing::DataFolder folder;
-    session::Settings settings{folder.path() + "/settings.toml"};
-    widgets::HeadlessDesk desk;
     std::vector<std::shared_ptr<document::Report>> printed;
     std::unique_ptr<program::Program> program;
 };

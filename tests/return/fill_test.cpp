@@ -73,7 +73,9 @@ TEST_F(FillTest, WithoutAMasterRowFieldsStayAndDefaultsHold) {
     f.txtName.set_text("Typed");
     f.cboCitizen.set_index(1);
     f.mskVerificationDate.set_text("01/01/2014");
+    f.txtAmtBTPTotal.set_text("7");
     f.cmdFillFromComputation.click();
+    EXPECT_EQ(f.txtAmtBTPTotal.text(), "7") << "no prepaid tax, no new total";
     EXPECT_EQ(f.txtName.text(), "Typed");
     EXPECT_EQ(f.cboCitizen.text(), "Yes");
     EXPECT_EQ(f.mskVerificationDate.text(), "01/01/2014");
@@ -100,11 +102,12 @@ TEST_F(FillTest, EverySchedule) {
     const std::string there = ", '1', 'Tower', 'MG Road', 'Camp', 'Pune', 'Goa', 'INDIA', '411001', 'S1', "
                               "100, 'V', 'R9', '01/04/2014', ";
     add("Immovable Property Details", "TypeOfProperty, NetValueOfProperty, NetValue" + place,
-        "'Guest House', 5000, 4900" + there + "0");
+        "'Guest House', 5000, 4900" + there + "1");
     add("Immovable Property Details", "TypeOfProperty, NetValueOfProperty, NetValue" + place,
         "'Deemed', 9, 9" + there + "2");
     add("Urban Land", "UrbanLandDescription, ValueOfUrbanLand, NetAmount" + place,
         "'Plot', 300, 200" + there + "1");
+    add("Urban Land", "UrbanLandDescription, AssetType, State", "'Far', 0, 'Tamil Nadu'"); // not listed
     add("Movable Property Details", "AssetType, SrNo, MovableDesc, MovableValue, DebtOwed, NetAmount",
         "0, 3, 'cash-in-hand', 70, 0, 70");
     add("Movable Property Details", "AssetType, SrNo, MovableDesc, MovableValue, DebtOwed, NetAmount",
@@ -132,7 +135,8 @@ TEST_F(FillTest, EverySchedule) {
     EXPECT_EQ(
         cells(f.sprImmovableProperty),
         "Building|Guest House|1|Tower|MG Road|Camp|Pune|GOA|INDIA|411001|S1|5000|100|4900|V|R9|01/04/2014\n"
-        "Urban Land|Plot|1|Tower|MG Road|Camp|Pune|GOA|INDIA|411001|S1|300|100|200|V|R9|01/04/2014\n");
+        "Urban Land|Plot|1|Tower|MG Road|Camp|Pune|GOA|INDIA|411001|S1|300|100|200|V|R9|01/04/2014\n"
+        "Urban Land|Far||||||||||0|0|0|||\n");
     EXPECT_EQ(cells(f.sprMovableProperty), " |40|15|25\n|||0\nCash-in-Hand|70|0|70\n");
     EXPECT_EQ(cells(f.sprInducibleNetWealth, 1), "Minor|Son|AAAPL1234C|80|90|0\n");
     EXPECT_EQ(cells(f.sprAssetInterest), "Firm|Nagpur|AAAFL1234C|B|33.33|60|10|50\n");
@@ -142,20 +146,9 @@ TEST_F(FillTest, EverySchedule) {
     // 4900 + 200, 25 + 70, 0 and 50; the jewellery waits for an edit
     EXPECT_EQ(f.txtNETWEALTHInFigure.text(), "5245");
     EXPECT_EQ(f.txtTotalTaxAndInterest.text() + " " + f.txtAmtPayable.text(), "1530 530");
-}
-
-TEST_F(FillTest, StateThatTheListLacksIsLeftWithoutASelection) {
-    add("Urban Land", "AssetType, State", "0, 'Tamil Nadu'");
-    EXPECT_EQ(form().sprImmovableProperty.text(immovable_column::state, 1), "");
-    EXPECT_EQ(form().sprImmovableProperty.index(immovable_column::state, 1), -1);
-}
-
-TEST_F(FillTest, WantedJewelleryTotalWaitsForAnEdit) {
-    add("jewellery", "ItemDesc, TotalValOfJewellery, NetAmt", "'Ring', 900, 900");
-    frmFormBA& f = form();
     EXPECT_EQ(f.txtJewlNetAmtTotal.text(), "");
-    f.sprJewellery.type(jewellery_column::unit, 1, "");
-    EXPECT_EQ(f.txtJewlNetAmtTotal.text(), "900");
+    f.sprJewellery.type(jewellery_column::valuer_name, 1, "V"); // wanted: now the total follows
+    EXPECT_EQ(f.txtJewlNetAmtTotal.text(), "800");
 }
 
 TEST_F(FillTest, WantedThirteenthPersonIsWrittenOverTheTotalRow) {

@@ -34,18 +34,13 @@ TEST_F(FirmsTest, OnlyTheFirstFiveRowsComputeANetAmount) {
     EXPECT_FALSE(grid().type(FirmColumn::debt, 1, "-1"));
     EXPECT_FALSE(grid().type(FirmColumn::net, 6, "10"));
     EXPECT_EQ(table(grid(), {6, 1, 8, 6}), "10|25|-15\n10||10\n10||10\n10||10\n10||10\n10||\n");
-    EXPECT_EQ(total(), "25");
-    EXPECT_EQ(assets().txtNetInterestInFirm.text(), "25");
-}
-
-TEST_F(FirmsTest, OnlyTheAmountsRunTheTotal) {
-    firms("A");
+    EXPECT_EQ(total() + "/" + assets().txtNetInterestInFirm.text(), "25/25");
     assets().txtNetInterestInFirm.set_text("7");
     EXPECT_TRUE(grid().type(FirmColumn::ratio, 1, "33.25"));
     EXPECT_EQ(grid().text(FirmColumn::ratio, 1), "33.3");
-    EXPECT_EQ(assets().txtNetInterestInFirm.text(), "7");
-    EXPECT_TRUE(grid().type(FirmColumn::value, 1, "10")); // the total passes 0, so the summary follows
-    EXPECT_EQ(assets().txtNetInterestInFirm.text(), "10");
+    EXPECT_EQ(assets().txtNetInterestInFirm.text(), "7") << "only amounts run the total";
+    EXPECT_TRUE(grid().type(FirmColumn::value, 2, "10")); // it passes 0, so the summary follows
+    EXPECT_EQ(assets().txtNetInterestInFirm.text(), "25");
 }
 
 TEST_F(FirmsTest, AfterALoadTheTotalIsEmptyAndTheSummaryHasTheStoredFigure) {
@@ -95,28 +90,30 @@ TEST_F(FirmsTest, DeletionTakesABlockOfOneRowAndOneMoreForEachPairOfEqualNames) 
     }
 }
 
-TEST_F(FirmsTest, ThePointAsksTheHyphenDoesNothingAndAnEmptyGridAsksNothing) {
+TEST_F(FirmsTest, KeysAskForDeletionsAndAddRows) {
     for (const char32_t character : {U'\x1b', U'.', U'-'})
         grid().type_character(character);
-    EXPECT_EQ(asked(), "");
+    EXPECT_EQ(asked(), "") << "an empty grid";
     firms("AB");
     answer(Answer::no);
     grid().type_character(U'.');
     EXPECT_EQ(asked(), "Do you want to delete the selected row(s) ??\n");
     grid().type_character(U'-');
     EXPECT_EQ(asked() + names(), "AB");
-}
-
-TEST_F(FirmsTest, TabAndRightInTheLastRowButOneAddARow) {
-    grid().set_active(1, 3);
-    grid().press_key("Tab");
-    EXPECT_EQ(grid().rows(), 5);
-    grid().set_active(1, 4);
-    grid().press_key("Right");
-    EXPECT_EQ(grid().rows() * 100 + grid().active_column(), 602);
-    grid().set_active(8, 6);
-    grid().press_key("Tab"); // past the last cell
-    EXPECT_EQ(grid().rows(), 7);
+    struct Case {
+        const char *why, *key;
+        int column, row, rows;
+    };
+    constexpr Case cases[] = {
+        {"not yet", "Tab", 1, 3, 5},
+        {"the last row but one", "Right", 1, 4, 6},
+        {"past the last cell", "Tab", 8, 6, 7},
+    };
+    for (const Case& each : cases) {
+        grid().set_active(each.column, each.row);
+        grid().press_key(each.key);
+        EXPECT_EQ(grid().rows(), each.rows) << each.why;
+    }
 }
 
 } // namespace

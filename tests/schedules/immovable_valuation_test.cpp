@@ -103,17 +103,6 @@ TEST_F(ImmovableValuationTest, OnlySomeRowsRecomputeTheirColumnTheOthersTheTotal
     EXPECT_EQ(recomputing, "4 5 6 7 8 9 10 12 14 17 28 ");
 }
 
-TEST_F(ImmovableValuationTest, CostWaitsForTheNextRecomputationAndIsStoredBesideTheOldResults) {
-    type(Row::annual_value, "100000");
-    type(Row::cost, "9000000");
-    EXPECT_EQ(cells(properties(), 2, {19, 20, 29}), "9000000 850000 850000");
-    EXPECT_TRUE(assets().cmdOK.click());
-    EXPECT_EQ(stored("Select CostOfAcquition, NetValue From [Immovable Property Details]"),
-              "9000000|850000\n");
-    screens.show("frmImmovable"); // a load recomputes
-    EXPECT_EQ(cells(properties(), 2, {19, 20, 29}), "9000000 9000000 9000000");
-}
-
 TEST_F(ImmovableValuationTest, TurningFreeholdLocksTheIncreaseLastSoTheDeductionFollowsARunLater) {
     type(Row::cost, "1000");
     type(Row::unearned_increase, "400");

@@ -81,17 +81,6 @@ TEST_F(JewelleryTest, ALoadClearsOnlyAsManyColumnsAsThereAreProperties) {
     EXPECT_EQ(jewellery().txtAggNetAmt.text(), "30");
 }
 
-TEST_F(JewelleryTest, AnyModeReplacesTheItemsOfAll) {
-    own_items("1");
-    item(1, "of the main schedule", "10", "0");
-    assets().cmdOK.click();
-    session.BusinessAssetFlag = true;
-    EXPECT_EQ(descriptions(), "of the main schedule|");
-    grid().type(2, JewelleryRow::description, "of the business");
-    assets().cmdOK.click();
-    EXPECT_EQ(stored("Select ItemDesc From jewellery"), "of the business\n");
-}
-
 TEST_F(JewelleryTest, ARecordWithoutAStonesEntryOrWithOneOfItsOwn) {
     store("Insert Into jewellery (AssesseeNo, FY, JwelleryNo, ItemDesc, DescAndWeiOfPreAndSemiPreStones) "
           "Values (17, '2014-2015', 4, 'A', 0)");
@@ -112,7 +101,10 @@ TEST_F(JewelleryTest, StonesAreStoredUnderTheirItemAndTheirTotalIsForInformation
     EXPECT_EQ(jewellery().stones.lblJR.caption(), "2");
     stone(1, "Ruby", "2.5 ct", "300");
     stone(2, "", "1", "50"); // no description: counted, not stored
-    stone(3, "Opal", "", "-20");
+    stones().set_active(3, 10);
+    stones().press_key("Enter"); // past the last cell
+    EXPECT_EQ(stones().active_column() * 100 + stones().active_row(), 111);
+    stone(11, "Opal", "", "-20");
     EXPECT_EQ(jewellery().stones.txtTotal.text(), "330");
     EXPECT_TRUE(jewellery().stones.btnOK.click());
     EXPECT_FALSE(jewellery().stones.frPreciousStone.visible());
@@ -139,41 +131,6 @@ TEST_F(JewelleryTest, AnEmptiedGridDeletesNoStonesAndATotalOfZeroKeepsTheValue) 
     EXPECT_EQ(stored_stones(), "1|Ruby|1|300\n");
     open_stones(1);
     EXPECT_EQ(stones().text(1, 1), "Ruby");
-}
-
-TEST_F(JewelleryTest, StonesStayUnderTheOldNumberForTheItemThatMovesIntoIt) {
-    own_items("3");
-    item(1, "A", "1", "0");
-    item(2, "B", "2", "0");
-    item(3, "C", "4", "0");
-    open_stones(2);
-    stone(1, "stone of B", "1", "9");
-    jewellery().stones.btnOK.click();
-    grid().set_active(3, 1);
-    grid().right_click();
-    EXPECT_TRUE(assets().mnuDeleteColumn.click());
-    EXPECT_EQ(descriptions(), "A|C");
-    EXPECT_EQ(jewellery().txtAggNetAmt.text(), "5");
-    open_stones(2);
-    EXPECT_EQ(stones().text(1, 1), "stone of B");
-}
-
-TEST_F(JewelleryTest, StonesGrowPastTheLastCellAndWithTheirRecords) {
-    own_items("1");
-    open_stones(1);
-    for (int row = 1; row <= 12; ++row) {
-        if (row > stones().rows()) {
-            stones().set_active(3, row - 1);
-            stones().press_key("Enter");
-            EXPECT_EQ(stones().active_column() * 100 + stones().active_row(), 100 + row);
-        }
-        stone(row, "s", "1", "1");
-    }
-    jewellery().stones.btnOK.click();
-    assets().cmdOK.click();
-    own_items("1");
-    open_stones(1);
-    EXPECT_EQ(jewellery().stones.txtTotal.text(), "12");
 }
 
 } // namespace

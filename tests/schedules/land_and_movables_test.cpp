@@ -90,20 +90,6 @@ TEST_F(LandTest, KeysClearCellsAndRowsWhileTheTotalsWait) {
     EXPECT_EQ(totals(), "50 20 30, 30");
 }
 
-TEST_F(LandTest, GrowsPastTheLastCellAndStandsStillUnderItsSheet) {
-    grid().set_active(16, 12);
-    grid().press_key("Tab");
-    EXPECT_EQ(grid().rows(), 13);
-    EXPECT_EQ(grid().active_column() * 100 + grid().active_row(), 113);
-    EXPECT_EQ(grid().text(LandColumn::city, 13), "Mumbai");
-    session.SheetGridName = "sprUrbanLand";
-    plot(13, "under the preview", "70", "0");
-    EXPECT_EQ(totals(), "0 0 0, 0");
-    session.SheetGridName.clear();
-    plot(13, "after it", "70", "0");
-    EXPECT_EQ(totals(), "70 0 70, 70");
-}
-
 class MovablesTest : public AssetsTest {
 protected:
     widgets::Grid& grid() { return assets().movable.sprMovableProp; }
@@ -120,13 +106,6 @@ TEST_F(MovablesTest, SumsFollowChangesAndTheSummaryTakesTheMainModeOnly) {
     grid().set_active(3, 1);
     grid().press_key("Delete"); // the sums are live, the item's net amount waits
     EXPECT_EQ(amounts(), "900||-100\n||\n250||250\n1150|0|150\n");
-}
-
-TEST_F(MovablesTest, InAnotherModeTheSummaryStays) {
-    session.DeemedAssetFlag = true;
-    EXPECT_TRUE(grid().type(2, 2, "70"));
-    EXPECT_EQ(assets().txtNetMovableProperty.text(), "");
-    EXPECT_EQ(assets().movable.value_for_parent(), "70");
 }
 
 TEST_F(MovablesTest, AnItemWhoseDebtReachesItsAmountIsDroppedWhileTheStoredTotalRemains) {

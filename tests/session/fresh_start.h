@@ -4,6 +4,7 @@
 
 #include "session/session_state.h"
 #include "session/settings.h"
+#include "widgets/grid.h"
 #include "widgets/headless_desk.h"
 
 #include <fstream>
