@@ -6,14 +6,6 @@
 
 namespace levora::computation {
 
-namespace {
-
-double unrounded(double interest) {
-    return interest;
-}
-
-} // namespace
-
 int months_late(std::string_view due_date, std::string_view filing_date) {
     const auto due = parse_date(due_date);
     const auto filed = parse_date(filing_date);
@@ -22,24 +14,15 @@ int months_late(std::string_view due_date, std::string_view filing_date) {
     return months_between(next_day(*due), *filed) + 1;
 }
 
-void frmWealthMain::work_out_interest(double (*rounding)(double)) {
-    const int months = months_late(mskDueDate.text(), mskRetDate.text());
-    if (months > 0)
-        txtInterest.set_value(rounding(txtWealthTaxLiability.value() * interest_rate_per_month * months));
-    else
-        txtInterest.set_text("");
-}
-
 // Wanted: the interest of a changed due date is not rounded, that of a changed filing date or tax is.
 void frmWealthMain::mskDueDate_Change() {
     session::procedure(session_, "frmWealthTaxMain - mskDueDate_Change",
-                       [this](const auto& attempt) { attempt([this] { work_out_interest(unrounded); }); });
+                       [this](const auto& attempt) { attempt([this] { interest_unrounded_->work_out(); }); });
 }
 
 void frmWealthMain::mskRetDate_Change() {
-    session::procedure(session_, "frmWealthTaxMain - mskRetDate_Change", [this](const auto& attempt) {
-        attempt([this] { work_out_interest(round_half_even); });
-    });
+    session::procedure(session_, "frmWealthTaxMain - mskRetDate_Change",
+                       [this](const auto& attempt) { attempt([this] { interest_rounded_->work_out(); }); });
 }
 
 // The dates of the law, not those of the year table: only clearing the sheet looks there.

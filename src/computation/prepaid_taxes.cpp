@@ -121,14 +121,6 @@ void frmWealthMain::save_prepaid(const std::string& deletion, RowSetAtEnd at_end
     if (at_end == RowSetAtEnd::closed) rows.close();
 }
 
-// Each addition writes the field, so that balance and refund follow row by row.
-void frmWealthMain::work_out_prepaid_tax() {
-    txtPrepaidTax.set_text("0");
-    const int last = sprSATax.data_rows();
-    for (int row = 1; row <= last; ++row)
-        txtPrepaidTax.set_value(txtPrepaidTax.value() + sprSATax.value(PrepaidColumn::amount, row));
-}
-
 void frmWealthMain::delete_active_row(widgets::Grid& grid) {
     if (grid.data_rows() == 0 || grid.active_row() < 1) return;
     const widgets::MessageBox question{.text = "Do you want to delete the selected row(s) ?",
@@ -149,7 +141,8 @@ void frmWealthMain::connect_grids() {
     design_enclosures();
 
     sprSATax.on_change = [this](int column, int /*row*/) {
-        if (column == PrepaidColumn::amount) work_out_prepaid_tax();
+        // Balance and refund follow row by row.
+        if (column == PrepaidColumn::amount) prepaid_total_->work_out_step_by_step();
     };
     sprSATax.on_key_down = [this](std::string_view key) {
         if (key != "Delete" && key != "Escape") return false;

@@ -61,6 +61,7 @@ frmWealthMain::frmWealthMain(session::Session& session)
       mnuPrintSheet(*this, "mnuPrintSheet", "&Print", mnuWealthTax) {
     design();
     connect_chain();
+    add_other_rules();
     connect_dates();
     connect_grids();
     connect_panels();

@@ -15,8 +15,6 @@ class Attempt;
 
 namespace levora::computation {
 
-struct SheetRule;
-
 // Columns of the two grids of the sheet.
 struct PrepaidColumn {
     enum : int { bank_name = 1, bank_branch, bsr_code, date_of_deposit, challan_number, amount };
@@ -125,17 +123,13 @@ private:
 
     void design();
     void connect_chain();
+    void add_other_rules();
     void connect_dates();
     void connect_grids();
     void connect_panels();
     void connect_buttons();
 
     void clear_lock_row(const session::Attempt& attempt);
-
-    // Writes the field that the rule tells of.
-    void work_out(const SheetRule& rule);
-    void work_out_interest(double (*rounding)(double));
-    void work_out_prepaid_tax();
 
     // "AssesseeNo = 17 And FY = '2014-2015'"
     [[nodiscard]] std::string row_key() const;
@@ -157,6 +151,10 @@ private:
     void slide_on(const Slide& slide);
     void cmdSATaxPayable_Click();
     void cmdEnclosure_Click();
+
+    const widgets::Rule* interest_unrounded_ = nullptr;
+    const widgets::Rule* interest_rounded_ = nullptr;
+    const widgets::Rule* prepaid_total_ = nullptr;
 
     int InterestSlideDirection = 0; // 1 opening, 0 closing
     std::uint8_t InterestSlideStep = 0;

@@ -1,12 +1,14 @@
 #include "desktop/sheet_extras.h"
 
-#include "computation/why.h"
 #include "desktop/composition_chart.h"
 #include "desktop/qt_text.h"
 #include "desktop/screen_window.h"
 #include "schedules/asset_composition.h"
 #include "session/session_state.h"
+#include "widgets/explanation.h"
 #include "widgets/fields.h"
+#include "widgets/form.h"
+#include "widgets/grid.h"
 
 #include <QTimer>
 
@@ -85,8 +87,11 @@ void show_schedules(session::Session& session, CompositionChart& chart) {
 }
 
 void tell_why(ScreenWindow& window, const widgets::Control* control) {
-    const auto* sheet = dynamic_cast<const computation::frmWealthMain*>(window.form());
-    if (sheet && control) window.tell(to_qt(computation::explain(*sheet, *control)));
+    if (!control) return;
+    const auto* grid = dynamic_cast<const widgets::Grid*>(control);
+    const widgets::Explanation why =
+        grid ? explain(*grid, grid->active_column(), grid->active_row()) : explain(*control);
+    window.tell(to_qt(why.sentence));
 }
 
 } // namespace

@@ -4,7 +4,7 @@
 #include "schedules/assets_immovable.h"
 #include "schedules/grid_keys.h"
 #include "schedules/property_grid.h"
-#include "schedules/running_total.h"
+#include "widgets/form.h"
 
 #include <array>
 #include <string>
@@ -56,6 +56,19 @@ constexpr double repairs_divisor = 9;
 constexpr double deposit_rate = 0.15;
 constexpr double months_of_year = 12;
 
+double repairs_of(std::span<const double> rent_and_borne) {
+    const double rent = round_half_even(rent_and_borne[0]);
+    const bool borne_by_tenant = rent_and_borne[1] == 1;
+    return borne_by_tenant ? round_half_even(rent / repairs_divisor) : 0;
+}
+double interest_of(std::span<const double> deposit_and_months) {
+    const double deposit = round_half_even(deposit_and_months[0]);
+    const double months = round_half_even(deposit_and_months[1]);
+    return months > 0 ? round_half_even(deposit * deposit_rate / months_of_year * months) : 0;
+}
+constexpr widgets::Reckoning repairs{repairs_of, "one ninth of $1, $2", "rule 5 of Schedule III"};
+constexpr widgets::Reckoning interest{interest_of, "15 % a year of $1 for $2", "rule 5 of Schedule III"};
+
 std::vector<std::string> month_counts() {
     std::vector<std::string> counts;
     for (int months = 1; months <= 12; ++months)
@@ -73,6 +86,7 @@ AnnualRentPanel::AnnualRentPanel(widgets::Form& form, session::Session& session,
     frAnnualRent.set_visible(false);
     txtTotalAnnualRent.set_locked(true);
     design_grid();
+    add_rules();
     connect();
 }
 
@@ -98,6 +112,29 @@ void AnnualRentPanel::design_grid() {
     sprAnnualRent.set_cell_backcolor(amount_column, RentRow::interest, widgets::grey_rgb);
 }
 
+void AnnualRentPanel::add_rules() {
+    const auto amount = [this](int row) { return widgets::cell(sprAnnualRent, amount_column, row); };
+    const auto written = [this](int row) {
+        return widgets::Rule::Target{sprAnnualRent, widgets::cell_at(amount_column, row)};
+    };
+    widgets::Rules& rules = sprAnnualRent.form().rules;
+    repairs_ =
+        &rules.add({written(RentRow::repairs),
+                    {amount(RentRow::rent), widgets::cell(sprAnnualRent, label_column, RentRow::repairs)},
+                    repairs});
+    interest_ = &rules.add(
+        {written(RentRow::interest), {amount(RentRow::deposit), amount(RentRow::months)}, interest});
+    // Wanted: deposit and months are left out by their row numbers, so that a row inserted above them
+    // shifts what is left out.
+    total_ =
+        &rules.add({txtTotalAnnualRent,
+                    {{sprAnnualRent, {amount_column, RentRow::rent, amount_column, RentRow::repairs}},
+                     {sprAnnualRent, {amount_column, RentRow::interest, amount_column, widgets::last_used}}},
+                    widgets::running_sum});
+    rules.call_by_rows(sprAnnualRent);
+    rules.call(sprAnnualRent, rent_items[RentRow::repairs - 1].label, 0, RentRow::repairs);
+}
+
 void AnnualRentPanel::connect() {
     sprAnnualRent.on_change = [this](int column, int row) { sprAnnualRent_Change(column, row); };
     sprAnnualRent.on_key_down = [this](std::string_view key) {
@@ -114,36 +151,10 @@ void AnnualRentPanel::open() {
 }
 
 void AnnualRentPanel::sprAnnualRent_Change(int, int row) {
-    if (row == RentRow::rent || row == RentRow::repairs) compute_repairs();
-    if (row == RentRow::deposit || row == RentRow::months) compute_deposit();
-    compute_total();
-}
-
-void AnnualRentPanel::compute_repairs() {
-    const double rent = round_half_even(sprAnnualRent.value(amount_column, RentRow::rent));
-    const bool borne_by_tenant = sprAnnualRent.text(label_column, RentRow::repairs) == "1";
-    sprAnnualRent.set_value(amount_column, RentRow::repairs,
-                            borne_by_tenant ? round_half_even(rent / repairs_divisor) : 0);
-}
-
-void AnnualRentPanel::compute_deposit() {
-    const double deposit = round_half_even(sprAnnualRent.value(amount_column, RentRow::deposit));
-    const double months = round_half_even(sprAnnualRent.value(amount_column, RentRow::months));
-    sprAnnualRent.set_value(amount_column, RentRow::interest,
-                            months > 0 ? round_half_even(deposit * deposit_rate / months_of_year * months)
-                                       : 0);
-}
-
-void AnnualRentPanel::compute_total() {
-    RunningTotal total;
-    const int last = sprAnnualRent.data_rows();
-    for (int row = 1; row <= last; ++row) {
-        // Wanted: deposit and months are left out by their row numbers, so that a row inserted above
-        // them shifts what is left out.
-        if (row != RentRow::deposit && row != RentRow::months)
-            total.add(sprAnnualRent.value(amount_column, row));
-    }
-    txtTotalAnnualRent.set_text(total.text());
+    if (row == RentRow::rent || row == RentRow::repairs) repairs_->work_out(amount_column, RentRow::repairs);
+    if (row == RentRow::deposit || row == RentRow::months)
+        interest_->work_out(amount_column, RentRow::interest);
+    total_->work_out();
 }
 
 void AnnualRentPanel::cmdOKAnnualRent_Click() {

@@ -3,6 +3,7 @@
 #include "session/session_state.h"
 #include "widgets/fields.h"
 #include "widgets/grid.h"
+#include "widgets/rules.h"
 
 namespace levora::schedules {
 
@@ -26,17 +27,18 @@ public:
 
 private:
     void design_grid();
+    void add_rules();
     void connect();
     void LoadAnnualRent();
     void SaveAnnualRent();
     void sprAnnualRent_Change(int column, int row);
-    void compute_repairs();
-    void compute_deposit();
-    void compute_total();
     void cmdOKAnnualRent_Click();
 
     session::Session& session_;
     ImmovableSchedule& immovable_;
+    const widgets::Rule* repairs_ = nullptr;
+    const widgets::Rule* interest_ = nullptr;
+    const widgets::Rule* total_ = nullptr;
 };
 
 } // namespace levora::schedules

@@ -1,7 +1,6 @@
 #include "schedules/assets_firm.h"
 
 #include "schedules/assets_screen.h"
-#include "schedules/running_total.h"
 #include "schedules/schedule_field.h"
 
 #include <array>
@@ -62,6 +61,13 @@ FirmSchedule::FirmSchedule(frmImmovable& form, session::Session& session)
     sprAssetInterest.set_column_backcolor(FirmColumn::net, net_shade);
     sprAssetInterest.set_column_formula(FirmColumn::net, {FirmColumn::value, FirmColumn::debt},
                                         widgets::difference_formula, rows_with_formula);
+    total_ = &form_.rules.add({.target = txtTotalInterestInFirm,
+                               .sources = {column_of(sprAssetInterest, FirmColumn::net)},
+                               .how = widgets::running_sum,
+                               .otherwise = "waits for the next change of an amount"});
+    form_.rules.tell({sprAssetInterest, {FirmColumn::net, 1, FirmColumn::net, widgets::last_of_grid}},
+                     "as it was stored; only the first five rows work out a net amount");
+    form_.rules.call(sprAssetInterest, "Value of the Assessee's Interest", FirmColumn::value);
     connect();
 }
 
@@ -74,12 +80,8 @@ void FirmSchedule::connect() {
 
 void FirmSchedule::sprAssetInterest_Change(int column, int) {
     if (column != FirmColumn::value && column != FirmColumn::debt && column != FirmColumn::net) return;
-    RunningTotal total;
-    const int last = sprAssetInterest.data_rows();
-    for (int row = 1; row <= last; ++row)
-        total.add(sprAssetInterest.value(FirmColumn::net, row));
     txtTotalInterestInFirm.set_text("0");
-    txtTotalInterestInFirm.set_text(total.text());
+    total_->work_out();
 }
 
 bool FirmSchedule::sprAssetInterest_KeyDown(std::string_view key) {

@@ -37,6 +37,8 @@ private:
     void sprAssetInterest_KeyPress(char32_t character);
     // How many rows the deletion takes from the active row on.
     [[nodiscard]] int rows_to_delete() const;
+
+    const widgets::Rule* total_ = nullptr;
 };
 
 } // namespace levora::schedules

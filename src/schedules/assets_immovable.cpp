@@ -2,9 +2,7 @@
 
 #include "schedules/assets_screen.h"
 #include "schedules/grid_keys.h"
-#include "schedules/immovable_valuation.h"
 #include "schedules/property_grid.h"
-#include "schedules/running_total.h"
 
 namespace levora::schedules {
 
@@ -22,12 +20,36 @@ ImmovableSchedule::ImmovableSchedule(frmImmovable& form, session::Session& sessi
       cboNumberOfProperty(form, "cboNumberOfProperty", widgets::ListStyle::editable,
                           "Number of Residential/Commercial Property Owned"),
       sprImmovable(form, "sprImmovable", columns_at_first, property_rows),
-      txtImmovableNetAmount(form, "txtImmovableNetAmount", "Net Amount"), annual_rent(form, session, *this),
-      unbuilt_area(form, session, *this), unearned_increase(form) {
+      txtImmovableNetAmount(form, "txtImmovableNetAmount", "Net Amount"), valuation(sprImmovable),
+      annual_rent(form, session, *this), unbuilt_area(form, session, *this), unearned_increase(form) {
     design_property_grid(sprImmovable);
     sprImmovable.tag = "Immovable Property";
     txtImmovableNetAmount.set_locked(true);
+    add_rules();
     connect();
+}
+
+void ImmovableSchedule::add_rules() {
+    using widgets::cell;
+    using widgets::last_of_grid;
+    using widgets::Reading;
+    widgets::Rules& rules = form_.rules;
+    // Wanted: hidden columns count too; leaving them out would lose what a smaller count only hides.
+    total_ = &rules.add({txtImmovableNetAmount,
+                         {row_of(sprImmovable, PropertyRow::net_value, first_property_column, last_of_grid)},
+                         widgets::running_sum});
+    const auto each_property = [this](int row) {
+        return widgets::Rule::Target{sprImmovable, {first_property_column, row, last_of_grid, row}};
+    };
+    rules.tell(each_property(PropertyRow::annual_rent), "the $1 that this button opens",
+               {{annual_rent.txtTotalAnnualRent, Reading::shown}});
+    rules.tell(each_property(PropertyRow::premium_rate), "the $1 that this button opens",
+               {cell(unbuilt_area.sprUnbuiltArea, plot_area_column, plot_premium_row, Reading::shown)});
+    rules.call_by_rows(sprImmovable);
+    rules.call(annual_rent.txtTotalAnnualRent, "total of the annual rent");
+    rules.open_with({&annual_rent.sprAnnualRent, &annual_rent.txtTotalAnnualRent}, sprImmovable,
+                    PropertyRow::annual_rent);
+    rules.open_with({&unbuilt_area.sprUnbuiltArea}, sprImmovable, PropertyRow::premium_rate);
 }
 
 void ImmovableSchedule::connect() {
@@ -62,18 +84,14 @@ void ImmovableSchedule::sprImmovable_Change(int column, int row) {
     // Wanted: a new cost, premium or unearned increase waits for the next change of a row that
     // recomputes, and is stored beside the old results.
     if (row >= 1 && row <= property_rows && property_item(row).recomputes == Recomputes::column)
-        value_property(sprImmovable, column);
+        valuation.value(column);
     compute_total();
 }
 
 void ImmovableSchedule::compute_total() {
-    RunningTotal total;
-    // Wanted: hidden columns count too; leaving them out would lose what a smaller count only hides.
-    for (int column = first_property_column; column <= sprImmovable.columns(); ++column)
-        total.add(sprImmovable.value(column, PropertyRow::net_value));
     txtImmovableNetAmount.set_text("0");
-    txtImmovableNetAmount.set_text(total.text());
-    form_.txtNetImmovableProperty.set_text(txtImmovableNetAmount.text());
+    total_->work_out();
+    form_.summary.immovable->work_out();
 }
 
 void ImmovableSchedule::load(const Attempt& attempt) {

@@ -3,6 +3,7 @@
 #include "schedules/asset_schedule.h"
 #include "schedules/assets_annual_rent.h"
 #include "schedules/assets_unbuilt_area.h"
+#include "schedules/immovable_valuation.h"
 #include "widgets/grid.h"
 
 namespace levora::schedules {
@@ -17,6 +18,7 @@ public:
     widgets::ListField cboNumberOfProperty;
     widgets::Grid sprImmovable;
     widgets::TextField txtImmovableNetAmount;
+    PropertyValuation valuation;
     AnnualRentPanel annual_rent;
     UnbuiltAreaPanel unbuilt_area;
     UnearnedIncreasePanel unearned_increase;
@@ -32,9 +34,12 @@ public:
 
 private:
     void connect();
+    void add_rules();
     void compute_total();
     void fill_column(int column, const session::RowSet& record);
     bool sprImmovable_KeyDown(std::string_view key);
+
+    const widgets::Rule* total_ = nullptr;
 };
 
 } // namespace levora::schedules

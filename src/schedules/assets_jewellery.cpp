@@ -1,7 +1,6 @@
 #include "schedules/assets_jewellery.h"
 
 #include "schedules/assets_screen.h"
-#include "schedules/running_total.h"
 #include "schedules/schedule_field.h"
 
 #include <array>
@@ -80,6 +79,7 @@ JewellerySchedule::JewellerySchedule(frmImmovable& form, session::Session& sessi
       txtAggNetAmt(form, "txtAggNetAmt", "Aggregate net amount of all jewellery, etc. from 8"),
       stones(form, session, *this) {
     design();
+    add_rules();
     sprJewellary.on_change = [this](int column, int row) { sprJewellary_Change(column, row); };
     sprJewellary.on_button_click = [this](int column, int) { stones.open(column); };
 }
@@ -100,6 +100,33 @@ void JewellerySchedule::design() {
     }
 }
 
+void JewellerySchedule::add_rules() {
+    using widgets::cell;
+    using widgets::last_of_grid;
+    using widgets::same;
+    widgets::Rules& rules = form_.rules;
+    const auto each_item = [this](int row) {
+        return widgets::Rule::Target{sprJewellary, {first_jewellery_column, row, last_of_grid, row}};
+    };
+    net_ = &rules.add({.target = each_item(JewelleryRow::net),
+                       .sources = {cell(sprJewellary, same, JewelleryRow::value),
+                                   cell(sprJewellary, same, JewelleryRow::debt)},
+                       .how = widgets::difference_formula,
+                       .otherwise = "was typed or stored, or waits for the next change of value or debt"});
+    total_ =
+        &rules.add({txtAggNetAmt,
+                    {row_of(sprJewellary, JewelleryRow::net, first_jewellery_column, widgets::last_used)},
+                    widgets::running_sum});
+    rules.tell(each_item(JewelleryRow::stones_value),
+               "typed here, or the $1 that Details opens; for information only, in no total",
+               {{stones.txtTotal, widgets::Reading::shown}});
+    rules.call_by_rows(sprJewellary);
+    rules.call(sprJewellary, "Value of the stones", 0, JewelleryRow::stones_value);
+    rules.call(txtAggNetAmt, "Net amount of all jewellery");
+    rules.call(stones.txtTotal, "total of the stones");
+    rules.open_with({&stones.sprPreciousStone, &stones.txtTotal}, sprJewellary, JewelleryRow::stones);
+}
+
 void JewellerySchedule::sprJewellary_Change(int, int) {
     // Wanted: the active cell decides, not the one that changed; a figure that came with a load keeps
     // the net amount that was stored beside it.
@@ -107,15 +134,9 @@ void JewellerySchedule::sprJewellary_Change(int, int) {
     const int row = sprJewellary.active_row();
     const bool on_item = column >= first_jewellery_column; // a label would be overwritten
     if (on_item && (row == JewelleryRow::value || row == JewelleryRow::debt))
-        sprJewellary.set_value(column, JewelleryRow::net,
-                               sprJewellary.value(column, JewelleryRow::value) -
-                                   sprJewellary.value(column, JewelleryRow::debt));
-    RunningTotal total;
-    const int last = sprJewellary.data_columns();
-    for (int item = first_jewellery_column; item <= last; ++item)
-        total.add(sprJewellary.value(item, JewelleryRow::net));
+        net_->work_out(column, JewelleryRow::net);
     txtAggNetAmt.set_text("0");
-    txtAggNetAmt.set_text(total.text());
+    total_->work_out();
 }
 
 void JewellerySchedule::load(const Attempt& attempt) {

@@ -49,8 +49,12 @@ public:
 
 private:
     void design();
+    void add_rules();
     void fill_item(int column, const session::RowSet& record);
     void store_item(session::RowSet& record, int column) const;
+
+    const widgets::Rule* net_ = nullptr;
+    const widgets::Rule* total_ = nullptr;
 };
 
 } // namespace levora::schedules

@@ -61,24 +61,28 @@ void MovableSchedule::design() {
                                         {{column, 1, column, MovableRow::last_item}}, widgets::sum_formula);
     }
     sprMovableProp.set_cell_locked(MovableColumn::amount, MovableRow::total, true);
+
+    using widgets::same;
+    // Wanted: rows by their numbers, also after a row was inserted: what stands in row 4 then takes the
+    // sums of the rows above it.
+    sums_ = &form_.rules.add(
+        {{sprMovableProp, {MovableColumn::amount, MovableRow::total, MovableColumn::debt, MovableRow::total}},
+         {{sprMovableProp, {same, 1, same, MovableRow::last_item}}},
+         widgets::sum_formula});
+    net_ = &form_.rules.add(
+        {{sprMovableProp, {MovableColumn::net, 1, MovableColumn::net, widgets::last_of_grid}},
+         {widgets::cell(sprMovableProp, MovableColumn::amount, same),
+          widgets::cell(sprMovableProp, MovableColumn::debt, same)},
+         widgets::difference_formula});
 }
 
 void MovableSchedule::sprMovableProp_Change(int column, int row) {
     if (column == MovableColumn::amount || column == MovableColumn::debt) {
-        // Wanted: rows by their numbers, also after a row was inserted: what stands in row 4 then takes
-        // the sums of the rows above it.
-        for (const int summed : {int{MovableColumn::amount}, int{MovableColumn::debt}}) {
-            double sum = 0;
-            for (int item = 1; item <= MovableRow::last_item; ++item)
-                sum += sprMovableProp.value(summed, item);
-            sprMovableProp.set_value(summed, MovableRow::total, sum);
-        }
-        sprMovableProp.set_value(MovableColumn::net, row,
-                                 sprMovableProp.value(MovableColumn::amount, row) -
-                                     sprMovableProp.value(MovableColumn::debt, row));
+        sums_->work_out(MovableColumn::amount, MovableRow::total);
+        sums_->work_out(MovableColumn::debt, MovableRow::total);
+        net_->work_out(MovableColumn::net, row);
     }
-    if (!session_.BusinessAssetFlag && !session_.DeemedAssetFlag)
-        form_.txtNetMovableProperty.set_value(sprMovableProp.value(MovableColumn::net, MovableRow::total));
+    if (!session_.BusinessAssetFlag && !session_.DeemedAssetFlag) form_.summary.movable->work_out();
 }
 
 void MovableSchedule::load(const Attempt& attempt) {

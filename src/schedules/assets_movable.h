@@ -32,6 +32,9 @@ public:
 
 private:
     void design();
+
+    const widgets::Rule* sums_ = nullptr;
+    const widgets::Rule* net_ = nullptr;
 };
 
 } // namespace levora::schedules

@@ -1,6 +1,8 @@
 #include "schedules/assets_screen.h"
 
+#include "computation/hand_overs.h"
 #include "schedules/asset_opening.h"
+#include "schedules/hand_over.h"
 #include "schedules/named_control.h"
 #include "session/common_services.h"
 
@@ -50,24 +52,38 @@ AssetSchedule& frmImmovable::schedule(int tab) {
 }
 
 void frmImmovable::connect_summary() {
+    using widgets::as_it_is;
+    using widgets::Write;
+    const auto total_of = [this](widgets::TextField& part, widgets::Source tab, Write write) {
+        return &rules.add({.target = part, .sources = {tab}, .how = as_it_is, .write = write});
+    };
+    summary = {total_of(txtNetImmovableProperty, immovable.txtImmovableNetAmount, Write::text),
+               total_of(txtNetMovableProperty,
+                        widgets::cell(movable.sprMovableProp, MovableColumn::net, MovableRow::total),
+                        Write::figure),
+               total_of(txtNetUrbanLand, urban_land.txtNetAmount, Write::figure),
+               total_of(txtNetInterestInFirm, firm.txtTotalInterestInFirm, Write::text),
+               total_of(txtNetJewellery, jewellery.txtAggNetAmt, Write::text)};
+    rules.tell(txtNetBusinessAssets, business_to_assets);
+    total_ = &rules.add({txtTotalNetAmount,
+                         {txtNetImmovableProperty, txtNetMovableProperty, txtNetUrbanLand,
+                          txtNetInterestInFirm, txtNetBusinessAssets, txtNetJewellery},
+                         widgets::sum_formula});
+
     immovable.txtImmovableNetAmount.on_change = [this] {
-        if (in_main_mode()) txtNetImmovableProperty.set_text(immovable.txtImmovableNetAmount.text());
+        if (in_main_mode()) summary.immovable->work_out();
     };
     urban_land.txtNetAmount.on_change = [this] {
-        if (in_main_mode()) txtNetUrbanLand.set_value(urban_land.txtNetAmount.value());
+        if (in_main_mode()) summary.urban_land->work_out();
     };
     firm.txtTotalInterestInFirm.on_change = [this] {
-        if (in_main_mode()) txtNetInterestInFirm.set_text(firm.txtTotalInterestInFirm.text());
+        if (in_main_mode()) summary.firm->work_out();
     };
-    jewellery.txtAggNetAmt.on_change = [this] { txtNetJewellery.set_text(jewellery.txtAggNetAmt.text()); };
+    jewellery.txtAggNetAmt.on_change = [this] { summary.jewellery->work_out(); };
     for (widgets::TextField* part : {&txtNetImmovableProperty, &txtNetMovableProperty, &txtNetUrbanLand,
                                      &txtNetInterestInFirm, &txtNetBusinessAssets, &txtNetJewellery}) {
         part->set_locked(true);
-        part->on_change = [this] {
-            txtTotalNetAmount.set_value(txtNetImmovableProperty.value() + txtNetMovableProperty.value() +
-                                        txtNetUrbanLand.value() + txtNetInterestInFirm.value() +
-                                        txtNetBusinessAssets.value() + txtNetJewellery.value());
-        };
+        part->on_change = [this] { total_->work_out(); };
     }
     txtTotalNetAmount.set_locked(true);
 }
@@ -142,7 +158,7 @@ void frmImmovable::cmdOK_Click() {
     widgets::Screens& screens = session_.screens;
     if (in_main_mode()) {
         widgets::Form& sheet = screens.show("frmWealthMain");
-        control_of<widgets::TextField>(sheet, "txtAssetsSec2ea").set_text(txtTotalNetAmount.text());
+        hand_over(computation::assets_to_sheet, *this, sheet);
     } else {
         const AssetParent& parent = asset_parent(session_);
         auto& grid = control_of<widgets::Grid>(screens.show(parent.screen), parent.grid);

@@ -44,6 +44,11 @@ public:
     widgets::TextField txtNetJewellery;
     widgets::TextField txtTotalNetAmount;
 
+    // What writes the summary, tab by tab; the business assets are handed over.
+    struct {
+        const widgets::Rule *immovable, *movable, *urban_land, *firm, *jewellery;
+    } summary{};
+
     widgets::Button cmdOK;
     widgets::Button cmdBusinessAsset;
 
@@ -96,6 +101,7 @@ private:
     void mnuDeleteColumn_Click();
     void sheet_of_active_grid(session::SheetUse use);
 
+    const widgets::Rule* total_ = nullptr;
     bool leaving_ = false;
     int property_count_ = 0;  // applied last
     int jewellery_count_ = 0; //

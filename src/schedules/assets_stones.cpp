@@ -1,8 +1,8 @@
 #include "schedules/assets_stones.h"
 
 #include "schedules/assets_jewellery.h"
-#include "schedules/running_total.h"
 #include "schedules/schedule_field.h"
+#include "widgets/form.h"
 
 #include <array>
 
@@ -49,6 +49,8 @@ StonesPanel::StonesPanel(widgets::Form& form, session::Session& session, Jewelle
     txtTotal.set_locked(true);
     sprPreciousStone.tag = "Description of Precious and Semi-precious Stones";
     design_columns(sprPreciousStone, fields);
+    total_ =
+        &form.rules.add({txtTotal, {column_of(sprPreciousStone, StoneColumn::value)}, widgets::running_sum});
     connect();
 }
 
@@ -101,11 +103,7 @@ void StonesPanel::SavePreciousStones() {
 }
 
 void StonesPanel::sprPreciousStone_Change() {
-    RunningTotal total;
-    const int last = sprPreciousStone.data_rows();
-    for (int row = 1; row <= last; ++row)
-        total.add(sprPreciousStone.value(StoneColumn::value, row));
-    txtTotal.set_text(total.text());
+    total_->work_out();
 }
 
 void StonesPanel::btnOK_Click() {

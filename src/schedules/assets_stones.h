@@ -3,6 +3,7 @@
 #include "session/session_state.h"
 #include "widgets/fields.h"
 #include "widgets/grid.h"
+#include "widgets/rules.h"
 
 #include <string>
 #include <string_view>
@@ -45,6 +46,7 @@ private:
 
     session::Session& session_;
     JewellerySchedule& jewellery_;
+    const widgets::Rule* total_ = nullptr;
 };
 
 } // namespace levora::schedules

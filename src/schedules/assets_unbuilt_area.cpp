@@ -2,6 +2,7 @@
 
 #include "schedules/asset_schedule.h"
 #include "schedules/assets_immovable.h"
+#include "schedules/assets_screen.h"
 #include "schedules/grid_keys.h"
 #include "schedules/property_grid.h"
 
@@ -20,7 +21,16 @@ using session::RowSetUse;
 namespace {
 
 struct AreaRow {
-    enum : int { aggregate = 1, built_up, unbuilt, specified, excess, percentage, calculated, premium };
+    enum : int {
+        aggregate = 1,
+        built_up,
+        unbuilt,
+        specified,
+        excess,
+        percentage,
+        calculated,
+        premium = plot_premium_row
+    };
 };
 constexpr std::array<std::string_view, 8> area_labels{
     "Aggregate Area of plot ",
@@ -43,7 +53,7 @@ constexpr std::array stored_areas{
 };
 constexpr int label_column = 1;
 constexpr double label_width = 58; // the longest label in full
-constexpr int area_column = 2;
+constexpr int area_column = plot_area_column;
 
 // Rule 6 of Schedule III: the share of the plot that may lie open, by city.
 constexpr std::array<std::string_view, 4> metropolitan_cities{"Mumbai", "Kolkata", "Delhi", "Chennai"};
@@ -74,6 +84,27 @@ double percentage_of(std::span<const double> excess_and_aggregate) {
     const double aggregate = excess_and_aggregate[1];
     return aggregate == 0 ? 0 : excess_and_aggregate[0] / aggregate * 100;
 }
+double specified_of(std::span<const double> aggregate_and_share) {
+    return aggregate_and_share[0] * aggregate_and_share[1];
+}
+double premium_of(std::span<const double> percentage) {
+    for (const PremiumStep& step : premium_steps)
+        if (percentage[0] <= step.up_to_per_cent) return step.rate;
+    return widgets::no_figure;
+}
+
+// clang-format off
+constexpr widgets::Reckoning percentage{percentage_of, "$1 in per cent of $2"};
+constexpr widgets::Reckoning specified{specified_of, "$2 times $1", "the share for the city named as premises, rule 6 of Schedule III"};
+constexpr widgets::Reckoning premium{premium_of, "the premium for $1", "rule 6 of Schedule III, which has none above 20"};
+// clang-format on
+
+// Wanted: the city is what was typed as the name of the premises, not the choice of the town row;
+// following that row would change the premium of stored plots.
+double share_of_premises(const widgets::Form& form) {
+    const widgets::Grid& properties = static_cast<const frmImmovable&>(form).immovable.sprImmovable;
+    return specified_share(properties.text(properties.active_column(), PropertyRow::premises));
+}
 
 } // namespace
 
@@ -86,6 +117,7 @@ UnbuiltAreaPanel::UnbuiltAreaPanel(widgets::Form& form, session::Session& sessio
       immovable_(immovable) {
     frUnbuiltArea.set_visible(false);
     design_grid();
+    add_rules();
     connect();
 }
 
@@ -113,7 +145,24 @@ void UnbuiltAreaPanel::design_grid() {
                                     {area(AreaRow::unbuilt), area(AreaRow::specified)},
                                     widgets::floored_difference_formula);
     sprUnbuiltArea.set_cell_formula(area_column, AreaRow::percentage,
-                                    {area(AreaRow::excess), area(AreaRow::aggregate)}, percentage_of);
+                                    {area(AreaRow::excess), area(AreaRow::aggregate)}, percentage);
+}
+
+void UnbuiltAreaPanel::add_rules() {
+    const auto area = [this](int row) { return widgets::cell(sprUnbuiltArea, area_column, row); };
+    const auto written = [this](int row) {
+        return widgets::Rule::Target{sprUnbuiltArea, widgets::cell_at(area_column, row)};
+    };
+    widgets::Rules& rules = sprUnbuiltArea.form().rules;
+    specified_ = &rules.add({written(AreaRow::specified),
+                             {area(AreaRow::aggregate), {immovable_.sprImmovable, share_of_premises}},
+                             specified});
+    calculated_ = &rules.add({written(AreaRow::calculated), {area(AreaRow::percentage)}, widgets::as_it_is});
+    premium_ = &rules.add({.target = written(AreaRow::premium),
+                           .sources = {area(AreaRow::percentage)},
+                           .how = premium,
+                           .otherwise = "stands from before"});
+    rules.call_by_rows(sprUnbuiltArea);
 }
 
 void UnbuiltAreaPanel::connect() {
@@ -141,23 +190,9 @@ void UnbuiltAreaPanel::open(int column) {
 }
 
 void UnbuiltAreaPanel::sprUnbuiltArea_Change(int, int row) {
-    if (row == AreaRow::aggregate) {
-        // Wanted: the city is what was typed as the name of the premises, not the choice of the town
-        // row; following that row would change the premium of stored plots.
-        const std::string& city =
-            immovable_.sprImmovable.text(immovable_.sprImmovable.active_column(), PropertyRow::premises);
-        sprUnbuiltArea.set_value(area_column, AreaRow::specified,
-                                 sprUnbuiltArea.value(area_column, AreaRow::aggregate) *
-                                     specified_share(city));
-    }
-    const double percentage = sprUnbuiltArea.value(area_column, AreaRow::percentage);
-    sprUnbuiltArea.set_value(area_column, AreaRow::calculated, percentage);
-    for (const PremiumStep& step : premium_steps) {
-        if (percentage <= step.up_to_per_cent) {
-            sprUnbuiltArea.set_value(area_column, AreaRow::premium, step.rate);
-            break;
-        }
-    }
+    if (row == AreaRow::aggregate) specified_->work_out(area_column, AreaRow::specified);
+    calculated_->work_out(area_column, AreaRow::calculated);
+    premium_->work_out(area_column, AreaRow::premium);
     // Wanted: above the last step the premium shown before stays; the law has no rate there.
 }
 

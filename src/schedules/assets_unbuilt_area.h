@@ -3,10 +3,15 @@
 #include "session/session_state.h"
 #include "widgets/fields.h"
 #include "widgets/grid.h"
+#include "widgets/rules.h"
 
 namespace levora::schedules {
 
 class ImmovableSchedule;
+
+// Where sprUnbuiltArea has the premium.
+constexpr int plot_area_column = 2;
+constexpr int plot_premium_row = 8;
 
 // The sub-screen that works out the premium for unbuilt area of one property (rule 6 of Schedule
 // III): open land above the specified share of the plot adds 20, 30 or 40 per cent. The active column
@@ -25,6 +30,7 @@ public:
 
 private:
     void design_grid();
+    void add_rules();
     void connect();
     void LoadUnbuiltArea();
     void SaveUnbuiltArea();
@@ -33,6 +39,9 @@ private:
 
     session::Session& session_;
     ImmovableSchedule& immovable_;
+    const widgets::Rule* specified_ = nullptr;
+    const widgets::Rule* calculated_ = nullptr;
+    const widgets::Rule* premium_ = nullptr;
 };
 
 // The sheet that states how the unearned increase of leasehold property is worked out. Nothing shows

@@ -1,5 +1,7 @@
 #include "schedules/assets_unbuilt_area.h"
 
+#include "widgets/form.h"
+
 #include <array>
 #include <string>
 #include <string_view>
@@ -37,6 +39,8 @@ double capitalised_rent(std::span<const double> years_expired_rate_rent) {
     const double years_left = years_expired_rate_rent[0] - years_expired_rate_rent[1];
     return years_left / years_expired_rate_rent[2] * years_expired_rate_rent[3];
 }
+constexpr widgets::Reckoning land{land_value, "$1 divided by $2, times $3"};
+constexpr widgets::Reckoning capitalised{capitalised_rent, "$1 less $2, divided by $3, times $4"};
 
 } // namespace
 
@@ -61,11 +65,11 @@ UnearnedIncreasePanel::UnearnedIncreasePanel(widgets::Form& form)
     grid.set_cell_formula(amount_column, IncreaseRow::land_value,
                           {amount(IncreaseRow::tenure_years), amount(IncreaseRow::interest_rate),
                            amount(IncreaseRow::lease_rent)},
-                          land_value);
+                          land);
     grid.set_cell_formula(amount_column, IncreaseRow::capitalised_rent,
                           {amount(IncreaseRow::tenure_years), amount(IncreaseRow::expired_years),
                            amount(IncreaseRow::interest_rate), amount(IncreaseRow::net_rent)},
-                          capitalised_rent);
+                          capitalised);
     grid.set_cell_formula(amount_column, IncreaseRow::unearned_increase,
                           {amount(IncreaseRow::capitalised_rent), amount(IncreaseRow::land_value)},
                           widgets::difference_formula);
@@ -74,6 +78,9 @@ UnearnedIncreasePanel::UnearnedIncreasePanel(widgets::Form& form)
         grid.set_cell_locked(amount_column, row, true);
         grid.set_cell_backcolor(amount_column, row, widgets::grey_rgb);
     }
+
+    form.rules.call_by_rows(grid);
+    form.rules.tell({grid, widgets::cell_at(amount_column, IncreaseRow::payable)}, "typed here");
 
     cmdUnearnIncreaseOk.on_click = [this] { frUnearnedIncrease.set_visible(false); };
     cmdUnearnIncreaseCancel.on_click = [this] { frUnearnedIncrease.set_visible(false); };

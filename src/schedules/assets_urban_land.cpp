@@ -79,6 +79,14 @@ UrbanLandSchedule::UrbanLandSchedule(frmImmovable& form, session::Session& sessi
     design_columns(sprUrbanLand, fields);
     sprUrbanLand.set_column_formula(LandColumn::net, {LandColumn::valuation, LandColumn::debt},
                                     widgets::difference_formula);
+    const auto total = [this](widgets::TextField& field, int column) {
+        return &form_.rules.add({.target = field,
+                                 .sources = {column_of(sprUrbanLand, column)},
+                                 .how = widgets::sum_formula,
+                                 .otherwise = "waits for the next change of a row"});
+    };
+    totals_ = {total(txtNetValuation, LandColumn::valuation), total(txtNetDebtsOwed, LandColumn::debt),
+               total(txtNetAmount, LandColumn::net)};
     connect();
 }
 
@@ -95,18 +103,8 @@ void UrbanLandSchedule::connect() {
 void UrbanLandSchedule::sprUrbanLand_Change(int, int) {
     // Under the preview of its sheet the grid ends in a total row, which must not be summed.
     if (session_.SheetGridName == sprUrbanLand.name()) return;
-    double valuation = 0;
-    double debts = 0;
-    double net = 0;
-    const int last = sprUrbanLand.data_rows();
-    for (int each = 1; each <= last; ++each) {
-        valuation += sprUrbanLand.value(LandColumn::valuation, each);
-        debts += sprUrbanLand.value(LandColumn::debt, each);
-        net += sprUrbanLand.value(LandColumn::net, each);
-    }
-    txtNetValuation.set_value(valuation);
-    txtNetDebtsOwed.set_value(debts);
-    txtNetAmount.set_value(net);
+    for (const widgets::Rule* total : totals_)
+        total->work_out();
 }
 
 bool UrbanLandSchedule::sprUrbanLand_KeyDown(std::string_view key) {

@@ -3,6 +3,7 @@
 #include "schedules/asset_schedule.h"
 #include "widgets/grid.h"
 
+#include <array>
 #include <string_view>
 
 namespace levora::schedules {
@@ -52,6 +53,8 @@ private:
     void connect();
     bool sprUrbanLand_KeyDown(std::string_view key);
     void sprUrbanLand_KeyPress(char32_t character);
+
+    std::array<const widgets::Rule*, 3> totals_{};
 };
 
 } // namespace levora::schedules

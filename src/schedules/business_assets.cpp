@@ -3,8 +3,8 @@
 #include "schedules/asset_opening.h"
 #include "schedules/asset_schedule.h"
 #include "schedules/grid_keys.h"
+#include "schedules/hand_over.h"
 #include "schedules/named_control.h"
-#include "schedules/running_total.h"
 #include "schedules/schedule_field.h"
 
 #include <array>
@@ -63,6 +63,9 @@ double value_taken(std::span<const double> individual_limit_sheet) {
     const double balance_sheet = individual_limit_sheet[2];
     return individual > limit ? individual : balance_sheet;
 }
+constexpr widgets::Reckoning fifth{fifth_of, "20 % of $1"};
+constexpr widgets::Reckoning taken{value_taken, "$1 where that is above $2, else $3",
+                                   "Part D of Schedule III"};
 
 } // namespace
 
@@ -85,18 +88,28 @@ void frmBusinessAssets::design() {
     // never on view: the row is like the others.
     for (int row = first_waiting_row; row <= last_waiting_row; ++row)
         sprAssetOfBusiness.set_cell_locked(BusinessColumn::individual, row, true);
-    sprAssetOfBusiness.set_column_formula(BusinessColumn::fifth, {BusinessColumn::balance_sheet}, fifth_of);
+    sprAssetOfBusiness.set_column_formula(BusinessColumn::fifth, {BusinessColumn::balance_sheet}, fifth);
     sprAssetOfBusiness.set_column_formula(BusinessColumn::with_fifth,
                                           {BusinessColumn::balance_sheet, BusinessColumn::fifth},
                                           widgets::sum_formula);
     sprAssetOfBusiness.set_column_formula(
         BusinessColumn::taken,
-        {BusinessColumn::individual, BusinessColumn::with_fifth, BusinessColumn::balance_sheet}, value_taken);
+        {BusinessColumn::individual, BusinessColumn::with_fifth, BusinessColumn::balance_sheet}, taken);
+
+    total_ = &rules.add({.target = txtTotalBusinessAsset,
+                         .sources = {column_of(sprAssetOfBusiness, BusinessColumn::taken)},
+                         .how = widgets::running_sum,
+                         .otherwise = "waits for the next change of a row"});
+    rules.tell({sprAssetOfBusiness,
+                {BusinessColumn::individual, 1, BusinessColumn::individual, widgets::last_of_grid}},
+               "typed here, or the net amount of the schedule that Details opens");
+    rules.call(sprAssetOfBusiness, "20 % of Balance sheet Amount", BusinessColumn::fifth);
+    rules.call(sprAssetOfBusiness, "120 % of Balance sheet Amount", BusinessColumn::with_fifth);
 }
 
 void frmBusinessAssets::connect() {
     // Wanted: a value that the assets screen hands over is no change; the total waits for the next one.
-    sprAssetOfBusiness.on_change = [this](int, int) { compute_total(); };
+    sprAssetOfBusiness.on_change = [this](int, int) { total_->work_out(); };
     sprAssetOfBusiness.on_key_down = [this](std::string_view key) {
         return clear_or_insert_key(sprAssetOfBusiness, key);
     };
@@ -118,14 +131,6 @@ void frmBusinessAssets::sprAssetOfBusiness_ButtonClicked(int row) {
     open_assets_for_row(session_, business_parent);
 }
 
-void frmBusinessAssets::compute_total() {
-    RunningTotal total;
-    const int last = sprAssetOfBusiness.data_rows();
-    for (int row = 1; row <= last; ++row)
-        total.add(sprAssetOfBusiness.value(BusinessColumn::taken, row));
-    txtTotalBusinessAsset.set_text(total.text());
-}
-
 void frmBusinessAssets::LoadBusinessassets() {
     procedure(session_, "frmBusinessAssets - LoadBusinessassets", [this](const Attempt& attempt) {
         sprAssetOfBusiness.clear_data();
@@ -135,7 +140,7 @@ void frmBusinessAssets::LoadBusinessassets() {
         for (int row = first_waiting_row; row <= last_waiting_row; ++row)
             if (sprAssetOfBusiness.value(BusinessColumn::individual, row) != 0)
                 sprAssetOfBusiness.set_cell_locked(BusinessColumn::individual, row, false);
-        compute_total();
+        total_->work_out();
     });
 }
 
@@ -160,7 +165,7 @@ void frmBusinessAssets::cmdBusinessAssetSave_Click() {
     show_assets_afresh(session_);
     widgets::Form& assets = session_.screens.load("frmImmovable");
     control_of<widgets::Frame>(assets, "frWTDetails").set_visible(true);
-    control_of<widgets::TextField>(assets, "txtNetBusinessAssets").set_text(txtTotalBusinessAsset.text());
+    hand_over(business_to_assets, *this, assets);
     session_.screens.unload(name());
 }
 

@@ -34,9 +34,10 @@ private:
     void design();
     void connect();
     void sprAssetOfBusiness_ButtonClicked(int row);
-    void compute_total();
     void cmdBusinessAssetSave_Click();
     void cmdCancel_Click();
+
+    const widgets::Rule* total_ = nullptr;
 };
 
 } // namespace levora::schedules

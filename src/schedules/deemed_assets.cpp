@@ -1,9 +1,10 @@
 #include "schedules/deemed_assets.h"
 
+#include "computation/hand_overs.h"
 #include "schedules/asset_opening.h"
 #include "schedules/asset_schedule.h"
 #include "schedules/grid_keys.h"
-#include "schedules/named_control.h"
+#include "schedules/hand_over.h"
 #include "schedules/schedule_field.h"
 
 #include <array>
@@ -83,6 +84,8 @@ constexpr std::array<ScheduleField, 9> fields{{
 // clang-format on
 
 constexpr int last_button_row = 8;
+static_assert(computation::deemed_to_sheet.from_column == DeemedColumn::net &&
+              computation::deemed_to_sheet.from_row == DeemedRow::total);
 // Where clicks were reported while the button stood there.
 constexpr int column_of_clicks = DeemedColumn::amount;
 
@@ -186,8 +189,7 @@ void frmDeemedAsset::cmdDeemedAssetOk_Click() {
     SaveDeemedAsset();
     session_.DeemedAssetFlag = false;
     // Wanted: row 13 also where the total row has moved down.
-    control_of<widgets::TextField>(session_.screens.load("frmWealthMain"), "txtDeemedAssets")
-        .set_value(sprDeemedAsset.value(DeemedColumn::net, DeemedRow::total));
+    hand_over(computation::deemed_to_sheet, *this, session_.screens.load("frmWealthMain"));
     show_sheet();
 }
 

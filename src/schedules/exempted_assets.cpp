@@ -1,8 +1,8 @@
 #include "schedules/exempted_assets.h"
 
+#include "computation/hand_overs.h"
 #include "schedules/grid_keys.h"
-#include "schedules/named_control.h"
-#include "schedules/running_total.h"
+#include "schedules/hand_over.h"
 #include "schedules/schedule_field.h"
 
 #include <array>
@@ -77,6 +77,10 @@ void frmAssetExempt::design() {
     design_columns(sprAssetExempt, fields);
     sprAssetExempt.set_column_formula(ExemptColumn::net, {ExemptColumn::amount, ExemptColumn::debt},
                                       widgets::difference_formula);
+    total_ = &rules.add({.target = txtTotalAssetExempt,
+                         .sources = {column_of(sprAssetExempt, ExemptColumn::net)},
+                         .how = widgets::running_sum,
+                         .otherwise = "waits for the next change of an amount"});
 }
 
 void frmAssetExempt::connect_grid() {
@@ -106,11 +110,7 @@ void frmAssetExempt::Form_Load() {
 
 void frmAssetExempt::sprAssetExempt_Change(int column) {
     if (column < ExemptColumn::amount || column > ExemptColumn::net) return;
-    RunningTotal total;
-    const int last = sprAssetExempt.data_rows();
-    for (int row = 1; row <= last; ++row)
-        total.add(sprAssetExempt.value(ExemptColumn::net, row));
-    txtTotalAssetExempt.set_text(total.text());
+    total_->work_out();
 }
 
 void frmAssetExempt::sprAssetExempt_KeyPress(char32_t character) {
@@ -158,8 +158,7 @@ void frmAssetExempt::SaveExemptedAsset() {
 
 void frmAssetExempt::cmdOK_Click() {
     SaveExemptedAsset();
-    control_of<widgets::TextField>(session_.screens.load("frmWealthMain"), "txtExemptedAssets")
-        .set_text(txtTotalAssetExempt.text());
+    hand_over(computation::exempted_to_sheet, *this, session_.screens.load("frmWealthMain"));
     show_sheet();
 }
 

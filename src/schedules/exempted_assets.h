@@ -45,6 +45,8 @@ private:
     void sheet_of_active_grid(session::SheetUse use);
     void cmdOK_Click();
     void show_sheet();
+
+    const widgets::Rule* total_ = nullptr;
 };
 
 } // namespace levora::schedules

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "widgets/control.h"
+#include "widgets/rules.h"
 
 #include <functional>
 #include <string>
@@ -83,6 +84,8 @@ public:
     void run_event(std::string_view event, const std::function<void()>& handler) const;
     void run_event(std::string_view control, std::string_view event,
                    const std::function<void()>& handler) const;
+
+    Rules rules; // what writes its figures
 
     View* view = nullptr; // set by the window that draws this form
 

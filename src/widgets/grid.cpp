@@ -292,7 +292,7 @@ void Grid::recompute_row(int row) {
         std::array<double, 8> inputs{};
         for (std::size_t i = 0; i < formula->inputs.size(); ++i)
             inputs.at(i) = value(formula->inputs[i], row);
-        put_formula_result(column, row, formula->function({inputs.data(), formula->inputs.size()}));
+        put_formula_result(column, row, formula->how.figure({inputs.data(), formula->inputs.size()}));
     }
 }
 
@@ -315,7 +315,7 @@ void Grid::recompute_from(int column, int row) {
                     sum += value(c, r);
             inputs.push_back(sum);
         }
-        put_formula_result(formula.column, formula.row, formula.function(inputs));
+        put_formula_result(formula.column, formula.row, formula.how.figure(inputs));
     }
 }
 

@@ -2,13 +2,14 @@
 
 #include "widgets/control.h"
 #include "widgets/date_text.h"
+#include "widgets/reckoning.h"
 #include "widgets/value_text.h"
 
 #include <cstdint>
 #include <functional>
 #include <limits>
 #include <memory>
-#include <span>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -59,11 +60,12 @@ constexpr CellRange cell_at(int column, int row) {
     return {column, row, column, row};
 }
 
-// Computes a formula cell from the sums of its inputs, in the order in which they were named.
-using FormulaFunction = double (*)(std::span<const double> inputs);
-double sum_formula(std::span<const double> inputs);                // a + b + ...
-double difference_formula(std::span<const double> inputs);         // a - b
-double floored_difference_formula(std::span<const double> inputs); // a - b, 0 when below 0
+// What a formula cell is made of: each input is the sum of its cells, in the order in which they were
+// named.
+struct GridFormula {
+    std::vector<CellRange> inputs;
+    Reckoning how;
+};
 
 // A table of cells, columns and rows from 1; column 0 and row 0 are the headers. Every function takes
 // the column first. An address outside the grid is a Failure 381, except where told.
@@ -105,11 +107,13 @@ public:
     void set_label(int column, int row, std::string text);
     // The formula of a column for every row, inserted rows too; inputs are columns of the same row.
     // With `only_rows` > 0 the rows 1 to that one carry it now, and it moves with them.
-    void set_column_formula(int column, std::vector<int> input_columns, FormulaFunction function,
+    void set_column_formula(int column, std::vector<int> input_columns, const Reckoning& how,
                             int only_rows = 0);
     // The formula of one cell. Its inputs follow insertions and deletions as in a spreadsheet.
-    void set_cell_formula(int column, int row, std::vector<CellRange> inputs, FormulaFunction function);
+    void set_cell_formula(int column, int row, std::vector<CellRange> inputs, const Reckoning& how);
     [[nodiscard]] bool has_formula(int column, int row) const;
+    // The formula that the cell has now, its inputs where they have moved to; nothing when it has none.
+    [[nodiscard]] std::optional<GridFormula> formula(int column, int row) const;
 
     // --- headers, widths, hidden columns ---
     [[nodiscard]] const std::string& header(int column) const; // column 0 is the corner

@@ -89,22 +89,6 @@ CellDesign check_cell(std::string caption) {
     return design;
 }
 
-double sum_formula(std::span<const double> inputs) {
-    double sum = 0;
-    for (const double input : inputs)
-        sum += input;
-    return sum;
-}
-
-double difference_formula(std::span<const double> inputs) {
-    return inputs[0] - inputs[1];
-}
-
-double floored_difference_formula(std::span<const double> inputs) {
-    const double difference = difference_formula(inputs);
-    return difference < 0 ? 0 : difference;
-}
-
 void show_design(const CellDesign& design, std::string& text, int& index) {
     index = -1;
     text.clear();
@@ -226,14 +210,14 @@ void Grid::set_label(int column, int row, std::string text) {
     if (form().view) form().view->cell_changed(*this, column, row);
 }
 
-void Grid::set_column_formula(int column, std::vector<int> input_columns, FormulaFunction function,
+void Grid::set_column_formula(int column, std::vector<int> input_columns, const Reckoning& how,
                               int only_rows) {
     (void)at(column, 1);
     for (const int input : input_columns) {
         (void)at(input, 1);
         storage_->columns[static_cast<std::size_t>(input - 1)].feeds_row_formula = true;
     }
-    storage_->row_formulas.push_back({column, std::move(input_columns), function, only_rows <= 0});
+    storage_->row_formulas.push_back({column, std::move(input_columns), how, only_rows <= 0});
     const RowFormula* formula = &storage_->row_formulas.back();
     if (formula->every_row) storage_->columns[static_cast<std::size_t>(column - 1)].formula = formula;
     const int last = formula->every_row ? rows() : std::min(only_rows, rows());
@@ -243,9 +227,9 @@ void Grid::set_column_formula(int column, std::vector<int> input_columns, Formul
     }
 }
 
-void Grid::set_cell_formula(int column, int row, std::vector<CellRange> inputs, FormulaFunction function) {
+void Grid::set_cell_formula(int column, int row, std::vector<CellRange> inputs, const Reckoning& how) {
     at(column, row).formula = nullptr; // the cell's own formula takes the place of the column's
-    storage_->cell_formulas.push_back({column, row, std::move(inputs), function});
+    storage_->cell_formulas.push_back({column, row, std::move(inputs), how});
     recompute_all();
 }
 
@@ -254,6 +238,18 @@ bool Grid::has_formula(int column, int row) const {
     for (const CellFormula& formula : storage_->cell_formulas)
         if (formula.column == column && formula.row == row) return true;
     return false;
+}
+
+std::optional<GridFormula> Grid::formula(int column, int row) const {
+    if (const RowFormula* own = at(column, row).formula) {
+        GridFormula found{{}, own->how};
+        for (const int input : own->inputs)
+            found.inputs.push_back(cell_at(input, row));
+        return found;
+    }
+    for (const CellFormula& each : storage_->cell_formulas)
+        if (each.column == column && each.row == row) return GridFormula{each.inputs, each.how};
+    return std::nullopt;
 }
 
 } // namespace levora::widgets

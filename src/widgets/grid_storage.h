@@ -14,7 +14,7 @@ namespace levora::widgets {
 struct RowFormula {
     int column;
     std::vector<int> inputs;
-    FormulaFunction function;
+    Reckoning how;
     bool every_row;
 };
 
@@ -22,7 +22,7 @@ struct CellFormula {
     int column;
     int row;
     std::vector<CellRange> inputs;
-    FormulaFunction function;
+    Reckoning how;
 };
 
 struct Grid::Cell {

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "widgets/form.h"
+#include "widgets/rules.h"
+
+namespace levora::schedules {
+
+// What the business assets give to the assets screen with their OK.
+constexpr widgets::HandOver business_to_assets{.from_screen = "frmBusinessAssets",
+                                               .from_control = "txtTotalBusinessAsset",
+                                               .from_column = 0,
+                                               .from_row = 0,
+                                               .to_screen = "frmImmovable",
+                                               .to_control = "txtNetBusinessAssets",
+                                               .words = "the total of the business assets",
+                                               .opener = "cmdBusinessAsset"};
+
+// Writes a field of the other screen: the text of a field as it stands, the number that a cell holds. A
+// Failure 424 when one of the places is not there.
+void hand_over(const widgets::HandOver& what, const widgets::Form& from, widgets::Form& to);
+
+} // namespace levora::schedules
