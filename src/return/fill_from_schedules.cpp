@@ -110,7 +110,75 @@ constexpr Source exempt_sources[] = {
     {exempt_column::reason, "ResonsForClaim"},
 };
 
+// What of the computation stands in a column, where it was neither typed nor loaded since.
+struct Filled {
+    Grid frmFormBA::*grid;
+    int column;
+    widgets::HandOver from;
+};
+constexpr widgets::HandOver filled_from(std::string_view screen, std::string_view grid,
+                                        std::string_view words, std::string_view opener) {
+    return {screen, grid, 0, 0, "frmFormBA", {}, words, opener, "frmWealthMain"};
+}
+constexpr widgets::HandOver from_assets(std::string_view grid, std::string_view words) {
+    return filled_from("frmImmovable", grid, words, "cmdAssets");
+}
+// clang-format off
+constexpr Filled fills[] = {
+    {&frmFormBA::sprScheduleBTP, btp_column::amount, filled_from("frmWealthMain", "sprSATax", "an amount of the prepaid taxes, unless typed or loaded here", "cmdSATaxPayable")},
+    {&frmFormBA::sprImmovableProperty, immovable_column::value, from_assets("sprImmovable", "the net valuation of a house or the valuation of urban land, unless typed or loaded here")},
+    {&frmFormBA::sprImmovableProperty, immovable_column::debt, from_assets("sprImmovable", "the debt owed on a house or on urban land, unless typed or loaded here")},
+    {&frmFormBA::sprMovableProperty, movable_column::value, from_assets("sprMovableProp", "an amount of the movable property, unless typed or loaded here")},
+    {&frmFormBA::sprMovableProperty, movable_column::debt, from_assets("sprMovableProp", "a debt of the movable property, unless typed or loaded here")},
+    {&frmFormBA::sprJewellery, jewellery_column::stones_value, from_assets("sprJewellary", "the value of an item's stones, unless typed or loaded here")},
+    {&frmFormBA::sprJewellery, jewellery_column::value, from_assets("sprJewellary", "the value of a jewellery item, unless typed or loaded here")},
+    {&frmFormBA::sprJewellery, jewellery_column::debt, from_assets("sprJewellary", "the debt of a jewellery item, unless typed or loaded here")},
+    {&frmFormBA::sprJewellery, jewellery_column::net, from_assets("sprJewellary", "the net amount of a jewellery item, unless typed or loaded here; only the opening rows work it out")},
+    {&frmFormBA::sprPreciousStone, stone_column::value, from_assets("sprJewellary", "the value of a stone behind the item's Details, unless typed or loaded here")},
+    {&frmFormBA::sprInducibleNetWealth, other_person_column::value, filled_from("frmDeemedAsset", "sprDeemedAsset", "an amount of the deemed assets, unless typed or loaded here", "cmdDeemedAssets")},
+    {&frmFormBA::sprInducibleNetWealth, other_person_column::debt, filled_from("frmDeemedAsset", "sprDeemedAsset", "a debt of the deemed assets, unless typed or loaded here", "cmdDeemedAssets")},
+    {&frmFormBA::sprAssetInterest, firm_column::ratio, from_assets("sprAssetInterest", "the ratio of a firm, a hundred times, unless typed or loaded here")},
+    {&frmFormBA::sprAssetInterest, firm_column::value, from_assets("sprAssetInterest", "the value of the interest in a firm, unless typed or loaded here")},
+    {&frmFormBA::sprAssetInterest, firm_column::debt, from_assets("sprAssetInterest", "the debt on the interest in a firm, unless typed or loaded here")},
+    {&frmFormBA::sprAssetInterest, firm_column::net, from_assets("sprAssetInterest", "the net amount of a firm, unless typed or loaded here; only the opening rows work it out")},
+    {&frmFormBA::sprAssetsClaimedExempt, exempt_column::value, filled_from("frmAssetExempt", "sprAssetExempt", "an amount of the exempted assets, unless typed or loaded here", "cmdExemptedAsset")},
+    {&frmFormBA::sprAssetsClaimedExempt, exempt_column::debt, filled_from("frmAssetExempt", "sprAssetExempt", "a debt of the exempted assets, unless typed or loaded here", "cmdExemptedAsset")},
+};
+// clang-format on
+
+struct FromSheet {
+    widgets::TextField frmFormBA::*field;
+    widgets::HandOver from;
+};
+constexpr FromSheet sheet_fills[] = {
+    {&frmFormBA::txtNetWealthTax,
+     {"frmWealthMain",
+      "txtWealthTaxLiability",
+      0,
+      0,
+      "frmFormBA",
+      "txtNetWealthTax",
+      "the tax on net wealth of the computation",
+      {}}},
+    {&frmFormBA::txtLateFilingInterest,
+     {"frmWealthMain",
+      "txtInterest",
+      0,
+      0,
+      "frmFormBA",
+      "txtLateFilingInterest",
+      "the interest of the computation",
+      {}}},
+};
+
 } // namespace
+
+void frmFormBA::tell_fills() {
+    for (const Filled& fill : fills)
+        rules.tell({this->*fill.grid, {fill.column, 1, fill.column, widgets::last_of_grid}}, fill.from);
+    for (const FromSheet& fill : sheet_fills)
+        rules.tell(this->*fill.field, fill.from);
+}
 
 void frmFormBA::FillFromSchedules() {
     fill_prepaid_taxes();
@@ -120,8 +188,8 @@ void frmFormBA::FillFromSchedules() {
     fill_firms();
     fill_jewellery();
     fill_exempt_assets();
-    txtNetWealthTax.set_text(sheet_text(session_, "txtWealthTaxLiability").text());
-    txtLateFilingInterest.set_text(sheet_text(session_, "txtInterest").text());
+    for (const FromSheet& fill : sheet_fills)
+        (this->*fill.field).set_text(sheet_text(session_, fill.from.from_control).text());
 }
 
 void frmFormBA::fill_prepaid_taxes() {

@@ -93,6 +93,7 @@ frmFormBA::frmFormBA(session::Session& session)
     frPreciousStone.set_visible(false);
     design_grids();
     connect_chain();
+    tell_fills();
     connect_grid_keys();
     connect_filing_status();
     connect_buttons();

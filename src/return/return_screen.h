@@ -206,11 +206,13 @@ public:
 private:
     void design_grids();
     void connect_chain();
+    void add_totals();
     void connect_grid_keys();
     void connect_filing_status();
     void connect_buttons();
 
-    void total_other_property();
+    // What the fill takes over, for the explanation of a figure.
+    void tell_fills();
     void mskOriFillDate_LostFocus();
     widgets::Grid* prepare_sheet();
     void show_active_sheet(session::SheetUse use);
@@ -236,6 +238,14 @@ private:
     void cmdValidatitor_Click();
     void cmdPrint_Click();
     void cmdClose_Click();
+
+    const widgets::Rule* btp_total_ = nullptr;
+    const widgets::Rule* immovable_total_ = nullptr;
+    const widgets::Rule* movable_total_ = nullptr;
+    const widgets::Rule* jewellery_total_ = nullptr;
+    const widgets::Rule* firms_total_ = nullptr;
+    const widgets::Rule* other_persons_ = nullptr;
+    const widgets::Rule* other_property_ = nullptr;
 };
 
 } // namespace levora::form_ba

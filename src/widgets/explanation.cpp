@@ -140,10 +140,11 @@ private:
                               std::string(given.from_control),
                               given.from_column,
                               given.from_row,
-                              {form_.name(), std::string(given.opener), column_, row_}});
+                              {given.opener_screen.empty() ? form_.name() : std::string(given.opener_screen),
+                               std::string(given.opener)}});
         const Form* from = form_.screens().find(given.from_screen);
         const Control* source = from ? from->find(given.from_control) : nullptr;
-        if (!source) return;
+        if (!source || (as_grid(*source) && given.from_row == 0)) return;
         const std::string there = figure_read(*source, given.from_column, given.from_row);
         if (there != shown()) told_.sentence += ", which is " + there + " now and has not been handed over";
     }

@@ -60,10 +60,11 @@ inline Source row_of(const Grid& grid, int row, int first_column, int last_colum
 // A place that another screen, or another part of the same one, writes: both by their names.
 struct HandOver {
     std::string_view from_screen, from_control;
-    int from_column, from_row; // 0 for a field
+    int from_column, from_row; // 0 for a field, or for a grid as a whole
     std::string_view to_screen, to_control;
     std::string_view words;  // of what is handed over: "the total of the assets screen"
-    std::string_view opener; // the button of the receiving screen that opens the giving one
+    std::string_view opener; // the button that opens the giving screen, on the receiving one
+    std::string_view opener_screen = {}; // or on this
 };
 
 enum class Write {
