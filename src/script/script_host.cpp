@@ -30,8 +30,8 @@ ScriptHost::~ScriptHost() = default;
 
 bool ScriptHost::start(const std::string& command_line) {
     program_.reset();
-    program_ = std::make_unique<program::Program>(
-        session::Surroundings{desk, settings, program_folder, command_line, program::computer_name()});
+    program_ = std::make_unique<program::Program>(session::Surroundings{
+        desk, settings, program_folder, command_line, program::computer_name(), &kept_stores_});
     program_->session().print_report = [this](const std::shared_ptr<document::Report>& report) {
         printed_.push_back(report);
     };

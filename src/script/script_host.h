@@ -1,6 +1,7 @@
 #pragma once
 
 #include "program/run_places.h"
+#include "session/kept_stores.h"
 #include "session/session_state.h"
 #include "session/settings.h"
 #include "widgets/control.h"
@@ -67,6 +68,7 @@ public:
     const std::string& kept_name(std::string_view name);
 
 private:
+    session::KeptStores kept_stores_;
     std::unique_ptr<program::Program> program_;
     std::vector<std::shared_ptr<document::Report>> printed_;
     std::unordered_set<std::string> screens_; // all that the program has

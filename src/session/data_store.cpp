@@ -1,6 +1,7 @@
 #include "session/data_store.h"
 
 #include "session/file_faults.h"
+#include "session/kept_stores.h"
 #include "session/row_set.h"
 #include "session/store_engine.h"
 #include "session/store_tables.h"
@@ -40,6 +41,7 @@ std::string select_of(std::string_view told) {
 struct Connection::State {
     std::shared_ptr<OpenStore> store;
     std::string file;
+    KeptStores* kept = nullptr;
     std::chrono::milliseconds longest_wait{std::chrono::seconds(10)};
 };
 
@@ -60,7 +62,8 @@ void Connection::open(const std::string& connect_string) {
     if (told.empty())
         throw Failure(error_number::store_not_found,
                       "Could not find file '': the connect string names none.");
-    state_->store = std::make_shared<OpenStore>(store_file(told));
+    const std::string file = store_file(told);
+    state_->store = state_->kept ? state_->kept->open(file) : std::make_shared<OpenStore>(file);
     state_->store->set_longest_wait(state_->longest_wait);
     state_->file = state_->store->file();
 }
@@ -77,6 +80,10 @@ bool Connection::is_open() const {
 
 const std::string& Connection::file() const {
     return state_->file;
+}
+
+void Connection::keep_in(KeptStores* kept) {
+    state_->kept = kept;
 }
 
 void Connection::set_longest_wait(std::chrono::milliseconds longest_wait) {

@@ -49,6 +49,7 @@ private:
 };
 
 class Connection;
+class KeptStores;
 
 enum class RowSetUse { read, update };
 
@@ -116,6 +117,9 @@ public:
     // stands alone. Trying the failing statement again brings the others back with it; commit() leaves
     // them until then. This gives them up: the event is over.
     void forget_loss();
+    // Where open() takes its store from, and where it goes when it is let go. None unless told: then
+    // each open() opens the file.
+    void keep_in(KeptStores* kept);
     // How long a store that another program keeps is waited for; 10 seconds unless told.
     void set_longest_wait(std::chrono::milliseconds longest_wait);
 

@@ -63,6 +63,8 @@ Session::Session(Surroundings surroundings)
       program_folder(std::move(surroundings.program_folder)),
       command_line(std::move(surroundings.command_line)),
       machine_name(std::move(surroundings.computer_name)) {
+    for (Connection* each : {&TaxDb, &AssesseeDb, &ITDb, &FormsDb})
+        each->keep_in(surroundings.kept_stores);
     screens.on_unanswered = [this](std::string_view event, const Failure& error) {
         report_unanswered(*this, event, error);
     };

@@ -28,7 +28,8 @@ struct Surroundings {
     Settings& settings;
     std::string program_folder; // without a trailing separator
     std::string command_line;
-    std::string computer_name; // as the machine has it
+    std::string computer_name;         // as the machine has it
+    KeptStores* kept_stores = nullptr; // of a process that starts again and again; outlives the session
 };
 
 // All that one start of the program shares between its screens: the session's variables under their

@@ -214,6 +214,17 @@ bool OpenStore::in_transaction() const {
     return database_ && sqlite3_get_autocommit(database_.get()) == 0;
 }
 
+bool OpenStore::is_at_rest() const {
+    return !in_transaction() && !begun_ && !lost_ && written_.empty() && attached_.empty() &&
+           sqlite3_next_stmt(database_.get(), nullptr) == nullptr;
+}
+
+bool OpenStore::file_has_moved() const {
+    int moved = 1;
+    const int code = sqlite3_file_control(database_.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved);
+    return code != SQLITE_OK || moved != 0;
+}
+
 void OpenStore::enter_gate() {
     if (!gate_.enter(longest_wait_))
         throw Failure(SQLITE_BUSY, file_ + ": database is locked: another program keeps it for too long");

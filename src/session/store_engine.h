@@ -67,6 +67,13 @@ public:
     // Gives up the rows of a save that a failing disk has taken back.
     void forget_loss();
 
+    // Nothing is under way and nothing left over: no transaction, statement, attached file, lost rows.
+    [[nodiscard]] bool is_at_rest() const;
+    // Another file, or none, has the name of the one that is open here.
+    [[nodiscard]] bool file_has_moved() const;
+    // The gate's file is opened anew at the next turn: it may be another one by then.
+    void close_gate() { gate_.close(); }
+
     [[noreturn]] void fail(int code);
 
 private:

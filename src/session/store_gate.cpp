@@ -45,7 +45,7 @@ StoreGate::StoreGate(const std::string& store_file)
     : path_(std::filesystem::path(store_file).replace_extension(".gate").string()) {}
 
 StoreGate::~StoreGate() {
-    if (descriptor_ >= 0) ::close(descriptor_);
+    close();
 }
 
 bool StoreGate::enter(std::chrono::milliseconds longest_wait) {
@@ -66,6 +66,12 @@ bool StoreGate::enter(std::chrono::milliseconds longest_wait) {
 void StoreGate::leave() {
     if (!inside_) return;
     set_lock(descriptor_, gate_place, F_UNLCK);
+    inside_ = false;
+}
+
+void StoreGate::close() {
+    if (descriptor_ >= 0) ::close(descriptor_); // its locks go with it
+    descriptor_ = -1;
     inside_ = false;
 }
 

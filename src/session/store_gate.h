@@ -18,6 +18,7 @@ public:
     // folder that can't be written, a full disk.
     bool enter(std::chrono::milliseconds longest_wait);
     void leave();
+    void close(); // leaves, and lets the gate's file go
     [[nodiscard]] bool is_inside() const { return inside_; }
 
 private:

@@ -1,11 +1,14 @@
 #include "session/data_store.h"
 
 #include "session/data_folder.h"
+#include "session/kept_stores.h"
 #include "widgets/value_text.h"
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
+#include <functional>
 #include <thread>
 
 #include <sqlite3.h>
@@ -292,6 +295,52 @@ TEST_F(DataStoreTest, SharesFilesWithTheGroupAndNobodyElseWhateverTheMask) {
         EXPECT_EQ(found.st_mode & 0777U, 0660U) << each;
     }
     ::umask(old);
+}
+
+TEST_F(DataStoreTest, AKeptStoreIsTakenUpOnlyWhileItsFileIsUntouched) {
+    const std::string file = folder.file(Store::forms);
+    const auto write_from_outside = [&] {
+        folder.run(Store::forms, "INSERT INTO Challan (AY) VALUES ('x')");
+    };
+    struct Case {
+        const char* why;
+        std::function<void()> between_two_openings;
+        bool is_taken_up;
+    };
+    const Case cases[] = {
+        {"nothing happened", [] {}, true},
+        {"another program wrote", write_from_outside, false},
+        {"a copy was put back in its place",
+         [&] {
+             std::filesystem::copy_file(file, file + ".copy");
+             std::filesystem::rename(file + ".copy", file);
+         },
+         false},
+        {"its rights were changed", [&] { ::chmod(file.c_str(), 0600); }, false},
+    };
+    for (const Case& each : cases) {
+        SCOPED_TRACE(each.why);
+        KeptStores kept;
+        Connection one;
+        one.keep_in(&kept);
+        one.open(folder.connect_string(Store::forms));
+        one.execute("CREATE TEMP TABLE MarkOfThisOpening (x)");
+        RowSet rows = one.open_rows("Challan", RowSetUse::update);
+        one.close();
+        EXPECT_EQ(failure_of([&] { rows.add_new(); }), "3709 The connection is closed.");
+        each.between_two_openings();
+        Connection other;
+        other.keep_in(&kept);
+        other.open(folder.connect_string(Store::forms));
+        EXPECT_EQ(failure_of([&] { (void)other.open_rows("MarkOfThisOpening"); }) == "none",
+                  each.is_taken_up);
+        EXPECT_EQ(number_text(other.open_rows("Select count(*) As n From Challan")["n"].number()),
+                  folder.rows(Store::forms, "SELECT count(*) FROM Challan"));
+        other.close();
+        std::filesystem::rename(file, file + ".away");
+        EXPECT_EQ(failure_of([&] { other.open(folder.connect_string(Store::forms)); }).substr(0, 4), "3024");
+        std::filesystem::rename(file + ".away", file);
+    }
 }
 
 } // namespace
