@@ -47,6 +47,14 @@ bool stands_right(const Grid& grid, int column, int row) {
     }
 }
 
+// What a row is called: by its label, a fixed text in its first cell, or by its header.
+QString row_words(const Grid& grid, int row) {
+    const bool labelled = grid.columns() > 1 && grid.cell_locked(1, row) && !shown_text(grid, 1, row).empty();
+    if (labelled) return plain_words(shown_text(grid, 1, row));
+    const QString header = plain_words(grid.row_header(row));
+    return header.isEmpty() ? QString::number(row) : header;
+}
+
 } // namespace
 
 std::string shown_text(const Grid& grid, int column, int row) {
@@ -104,7 +112,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     }
     case Qt::AccessibleTextRole:
         return QStringLiteral("%1, %2: %3")
-            .arg(plain_words(grid_->header(column)), plain_words(grid_->row_header(row)),
+            .arg(row_words(*grid_, row), plain_words(grid_->header(column)),
                  kind == CellKind::check ? (grid_->text(column, row) == "1" ? QStringLiteral("ticked")
                                                                             : QStringLiteral("not ticked"))
                                          : to_qt(shown_text(*grid_, column, row)));

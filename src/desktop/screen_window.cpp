@@ -99,11 +99,31 @@ void ScreenWindow::tie(Control& control) {
     bindings_.push_back(std::move(binding));
 }
 
+std::string ScreenWindow::frame_words(const QWidget& widget) const {
+    for (const QWidget* around = widget.parentWidget(); around; around = around->parentWidget()) {
+        const Control* frame = form_->find(from_qt(around->objectName()));
+        if (frame && frame->kind() == ControlKind::frame)
+            if (const std::string& caption = static_cast<const widgets::Frame*>(frame)->caption();
+                !caption.empty())
+                return caption;
+    }
+    return form_->caption();
+}
+
 void ScreenWindow::name_for_readers(const Control& control, QWidget& widget) const {
     std::string words = control.label;
     if (words.empty()) words = control.tag;
-    if (words.empty() && control.kind() == ControlKind::grid) words = control.name();
-    const QString name = plain_words(words);
+    // A grid is called as the frame that it fills, the tabs as their window.
+    if (words.empty() && control.kind() == ControlKind::grid) words = frame_words(widget);
+    if (words.empty() && control.kind() == ControlKind::tabs) words = form_->caption();
+    QString name = plain_words(words);
+    // "Yes" alone would not tell what it answers.
+    if (control.kind() == ControlKind::tick_box && !name.isEmpty())
+        if (const QString caption = plain_words(static_cast<const widgets::TickBox&>(control).caption());
+            !caption.isEmpty() && caption != name)
+            name += QStringLiteral(" ") + caption;
+    // The layout's own word goes before the label.
+    if (!widget.accessibleName().isEmpty()) name = widget.accessibleName();
     if (!name.isEmpty()) widget.setAccessibleName(name);
     widget.setAccessibleDescription(to_qt(control.tooltip()));
     if (auto* box = qobject_cast<QComboBox*>(&widget); box && box->lineEdit())

@@ -85,6 +85,8 @@ protected:
 private:
     void tie_controls();
     void tie(widgets::Control& control);
+    // The caption of the frame around a widget, else of the screen.
+    std::string frame_words(const QWidget& widget) const;
     void name_for_readers(const widgets::Control& control, QWidget& widget) const;
     void tie_commands();
     void press_button(std::initializer_list<const char*> names);

@@ -1,6 +1,5 @@
 #include "window_fixture.h"
 
-#include <QAbstractButton>
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
@@ -70,24 +69,6 @@ TEST_F(LayoutsTest, EveryActingWidgetIsAControlAndNoNameIsTwice) {
             if (!each.name.startsWith(QStringLiteral("label_"))) continue;
             const widgets::Control* named = form.find(name.substr(6));
             EXPECT_TRUE(named && !named->label.empty()) << screen << ": no words for " << name;
-        }
-    }
-}
-
-TEST_F(LayoutsTest, EveryActingWidgetHasAWordForReaders) {
-    for (const std::string& screen : program::Program::screen_names()) {
-        ScreenWindow& window = show(screen);
-        for (widgets::Control* control : window.form()->controls()) {
-            const Binding* binding = window.binding_of(*control);
-            if (!binding || !binding->widget() || control->kind() == widgets::ControlKind::frame ||
-                control->kind() == widgets::ControlKind::label ||
-                control->kind() == widgets::ControlKind::tabs ||
-                control->kind() == widgets::ControlKind::spin_buttons)
-                continue;
-            const auto* button = qobject_cast<const QAbstractButton*>(binding->widget());
-            EXPECT_FALSE(binding->widget()->accessibleName().isEmpty() &&
-                         (!button || button->text().isEmpty()))
-                << screen << "." << control->name();
         }
     }
 }
