@@ -35,18 +35,6 @@ TEST_F(AssetsColumnsTest, CountsTypedShowHideAndAddColumns) {
     EXPECT_EQ(unanswered, std::vector<std::string>{"frmImmovable - cboNumberOfProperty_Change: Overflow"});
 }
 
-TEST_F(AssetsColumnsTest, AnAddedColumnHasTheDesignOfItsNeighbourWithoutItsData) {
-    own_properties("1");
-    properties().type(4, PropertyRow::flat, "12 A");
-    properties().type(4, PropertyRow::annual_value, "100");
-    own_properties("4");
-    EXPECT_EQ(cells(properties(), 5, {1, 2, 6, 7, 11, 12, 13, 17, 21}),
-              "Residential House - Delhi Andhra Pradesh Details - - Lease hold Land & Unexpired Lease period "
-              "is 50 Yrs. or more = (NMR X 10) Details");
-    EXPECT_TRUE(properties().cell_locked(5, PropertyRow::gross_rent));
-    EXPECT_EQ(properties().column_width(5), 14);
-}
-
 TEST_F(AssetsColumnsTest, DeletingTheSecondOfThreeLeavesItsRentUnderTheOldNumber) {
     own_properties("3");
     for (int column = 2; column <= 4; ++column) {

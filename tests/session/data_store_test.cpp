@@ -182,43 +182,59 @@ TEST_F(DataStoreTest, AnUpdateInPlaceWritesTheRowThatItRead) {
               "1|5|Null; 2|6|37.02");
 }
 
-TEST_F(DataStoreTest, AFailingStatementKeepsWhatWentBeforeIt) {
-    tax.execute("INSERT INTO Enclosure (AssesseeNo, FY, Description) VALUES (1, '2014-2015', 'first')");
-    EXPECT_EQ(failure_of([&] { tax.execute("INSERT INTO Enclosure (Descripton) VALUES ('x')"); }),
-              "1 table Enclosure has no column named Descripton");
-    EXPECT_EQ(failure_of([&] { tax.execute("UPDATE NetWealth SET Refund = 1"); }),
-              "1 no such table: NetWealth");
-    tax.commit();
-    EXPECT_EQ(folder.rows(Store::tax, "SELECT Description FROM Enclosure"), "first");
-}
-
-TEST_F(DataStoreTest, ClosedThingsSaySo) {
+TEST_F(DataStoreTest, WhatCannotBeDoneSaysWhy) {
+    folder.run(Store::tax, "INSERT INTO Enclosure (Description) VALUES ('x')");
     RowSet rows = tax.open_rows("Enclosure", RowSetUse::update);
+    RowSet read = tax.open_rows("Enclosure");
+    tax.commit();
+    folder.run(Store::tax, "DELETE * FROM Enclosure");
     RowSet kept = tax.open_rows("Enclosure", RowSetUse::update);
-    rows.close();
-    EXPECT_EQ(failure_of([&] { rows.add_new(); }),
-              "3704 Operation is not allowed when the object is closed.");
-    EXPECT_EQ(failure_of([&] { (void)rows["Figure"]; }),
-              "3704 Operation is not allowed when the object is closed.");
-    EXPECT_EQ(failure_of([&] { (void)kept["Figure"]; }), "3021 No current record.");
-    tax.close();
-    EXPECT_EQ(failure_of([&] { (void)tax.execute("DELETE * FROM Enclosure"); }).substr(0, 5), "3709 ");
-    EXPECT_EQ(failure_of([&] { kept.add_new(); }), "3709 The connection is closed.");
+    rows.set("Figure", "1");
+    const auto run = [this](const char* statement) { (void)tax.execute(statement); };
+    const auto open = [this](const char* select) { (void)tax.open_rows(select, RowSetUse::update); };
+    struct Case {
+        const char* why;
+        std::function<void()> act;
+        const char* failure;
+    };
+    const Case cases[] = {
+        {"a row that is gone", [&] { rows.update(); }, "3167 Record is deleted."},
+        {"closed rows", [&] { rows.close(), rows.add_new(); },
+         "3704 Operation is not allowed when the object is closed."},
+        {"reading them", [&] { (void)rows["Figure"]; },
+         "3704 Operation is not allowed when the object is closed."},
+        {"no row", [&] { (void)kept["Figure"]; }, "3021 No current record."},
+        {"rows for reading", [&] { read.add_new(); },
+         "3027 Cannot update. The rows were opened for reading."},
+        {"rows of no table", [&] { open("SELECT 1 UNION SELECT 2"); },
+         "3027 Cannot update. The rows are not those of one table."},
+        {"an unknown table", [&] { open("Enclosures"); }, "1 no such table: Enclosures"},
+        {"an unknown column read", [&] { open("SELECT Nope FROM Enclosure"); }, "1 no such column: Nope"},
+        {"and one written", [&] { run("INSERT INTO Enclosure (Descripton) VALUES ('x')"); },
+         "1 table Enclosure has no column named Descripton"},
+        {"a closed connection", [&] { tax.close(), kept.add_new(); }, "3709 The connection is closed."},
+    };
+    for (const Case& each : cases)
+        EXPECT_EQ(failure_of(each.act), each.failure) << each.why;
 }
 
 TEST_F(DataStoreTest, TheStoreItselfRefusesWrongTypes) {
-    const auto insert = [&](const std::string& what) {
-        return failure_of([&] { folder.run(Store::tax, "INSERT INTO NetWealthComputation " + what); });
+    struct Case {
+        const char *column, *value, *failure;
     };
-    EXPECT_EQ(insert("(LessDebt) VALUES ('abc')"),
-              "275 CHECK constraint failed: column LessDebt takes a number");
-    EXPECT_EQ(insert("(DueDate) VALUES ('2014-02-30')"),
-              "275 CHECK constraint failed: column DueDate takes a date");
-    EXPECT_EQ(insert("(DueDate) VALUES ('30/09/2014')"),
-              "275 CHECK constraint failed: column DueDate takes a date");
-    EXPECT_EQ(insert("(AssesseeNo) VALUES (1.5)"),
-              "275 CHECK constraint failed: column AssesseeNo takes a whole number");
-    EXPECT_EQ(insert("(LessDebt, DueDate) VALUES ('12.50', #09/30/2014#)"), "none");
+    constexpr Case cases[] = {
+        {"LessDebt", "'abc'", "275 CHECK constraint failed: column LessDebt takes a number"},
+        {"DueDate", "'2014-02-30'", "275 CHECK constraint failed: column DueDate takes a date"},
+        {"DueDate", "'30/09/2014'", "275 CHECK constraint failed: column DueDate takes a date"},
+        {"AssesseeNo", "1.5", "275 CHECK constraint failed: column AssesseeNo takes a whole number"},
+        {"LessDebt, DueDate", "'12.50', #09/30/2014#", "none"},
+    };
+    for (const Case& each : cases)
+        EXPECT_EQ(failure_of([&] {
+                      folder.run(Store::tax, std::string("INSERT INTO NetWealthComputation (") + each.column +
+                                                 ") VALUES (" + each.value + ")");
+                  }),
+                  each.failure);
     EXPECT_EQ(folder.rows(Store::tax, "SELECT LessDebt, DueDate FROM NetWealthComputation"),
               "12.5|2014-09-30");
 }
@@ -253,25 +269,6 @@ TEST_F(DataStoreTest, AStoreThatCannotBeOpenedSaysWhichAndWhy) {
     EXPECT_EQ(opening(path + "/Foreign.mdb"), "26 " + path + "/Foreign.db: file is not a database");
     EXPECT_EQ(failure_of([&] { tax.open(folder.connect_string(Store::tax)); }),
               "3705 Operation is not allowed when the object is open.");
-}
-
-TEST_F(DataStoreTest, RowsThatAreNotThoseOfOneTableAreForReadingOnly) {
-    EXPECT_EQ(failure_of([&] { (void)tax.open_rows("SELECT 1 UNION SELECT 2", RowSetUse::update); }),
-              "3027 Cannot update. The rows are not those of one table.");
-    RowSet rows = tax.open_rows("Enclosure");
-    EXPECT_EQ(failure_of([&] { rows.add_new(); }), "3027 Cannot update. The rows were opened for reading.");
-    EXPECT_EQ(failure_of([&] { (void)tax.open_rows("Enclosures"); }), "1 no such table: Enclosures");
-    EXPECT_EQ(failure_of([&] { (void)tax.open_rows("SELECT Nope FROM Enclosure"); }),
-              "1 no such column: Nope");
-}
-
-TEST_F(DataStoreTest, ARowThatIsGoneCannotBeWritten) {
-    folder.run(Store::tax, "INSERT INTO Enclosure (Description) VALUES ('x')");
-    RowSet rows = tax.open_rows("Enclosure", RowSetUse::update);
-    tax.commit();
-    folder.run(Store::tax, "DELETE * FROM Enclosure");
-    rows.set("Figure", "1");
-    EXPECT_EQ(failure_of([&] { rows.update(); }), "3167 Record is deleted.");
 }
 
 TEST_F(DataStoreTest, TextsAreFoundInAnyCase) {

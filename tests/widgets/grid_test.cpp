@@ -143,15 +143,6 @@ TEST_F(GridTest, FormulasFollowEveryWriteAndMoveWithTheirRows) {
     EXPECT_EQ(grid.text(6, 13) + "|" + grid.text(9, 13) + "|" + std::to_string(grid.rows()), "1050|960|14");
 }
 
-TEST_F(GridTest, FormulaOfGivenRowsIsNotInNewOnes) {
-    grid.design_column(3, number_cell(-1e9, 1e9, 0));
-    grid.set_column_formula(3, {1, 2}, difference_formula, 2);
-    grid.insert_row(1);
-    for (int row = 1; row <= 4; ++row)
-        grid.set_text(1, row, "9");
-    EXPECT_EQ(column(3, 4), "|9|9||");
-}
-
 TEST_F(GridTest, InsertedRowsTakeTheKindsOfTheirPlaceAndTheLastFallsOff) {
     grid.design_column(1, combo_cell({"Goa", "Delhi"}, 0));
     for (int row = 1; row <= 13; ++row)

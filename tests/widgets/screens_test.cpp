@@ -21,6 +21,8 @@ TEST(ScreensTest, AScreenMayUnloadItselfInsideItsOwnEvent) {
     EXPECT_EQ(after, "cmdOK");
     EXPECT_EQ(test.screens.find("TestForm"), nullptr);
     EXPECT_NE(&test.form(), nullptr); // a new one on the next use
+    EXPECT_EQ(test.form().find("CMDOK"), nullptr) << "names are found exactly";
+    EXPECT_THROW(test.screens.load("frmNowhere"), Failure);
 }
 
 TEST(ScreensTest, AnUnansweredFailureIsReportedOnceUnderTheOutermostEvent) {
@@ -43,14 +45,6 @@ TEST(ScreensTest, AnUnansweredFailureIsReportedOnceUnderTheOutermostEvent) {
     EXPECT_EQ(form.take_events(), "");
     EXPECT_EQ(settled, 1);
     EXPECT_EQ(test.screens.event_depth(), 0);
-}
-
-TEST(ScreensTest, NamesAreFoundExactly) {
-    TestScreens test;
-    TestForm& form = test.form();
-    EXPECT_EQ(form.find("txtAmount"), &form.txtAmount);
-    EXPECT_EQ(form.find("TXTAMOUNT"), nullptr);
-    EXPECT_THROW(test.screens.load("frmNowhere"), Failure);
 }
 
 } // namespace

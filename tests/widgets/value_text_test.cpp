@@ -89,16 +89,14 @@ TEST(ValueTextTest, NumbersAreWrittenShortestWithoutExponent) {
 }
 
 TEST(ValueTextTest, RoundsByTheNamedRule) {
-    EXPECT_EQ(round_half_even(0.5), 0);
-    EXPECT_EQ(round_half_even(1.5), 2);
-    EXPECT_EQ(round_half_even(2.5), 2);
-    EXPECT_EQ(round_half_even(-2.5), -2);
+    for (const auto& [value, even] : {std::pair{0.5, 0}, {1.5, 2}, {2.5, 2}, {-2.5, -2}})
+        EXPECT_EQ(round_half_even(value), even);
     EXPECT_EQ(round_half_away(0.5, 0), 1);
     EXPECT_EQ(round_half_away(-2.5, 0), -3);
-    EXPECT_EQ(number_text(round_half_away(1.005, 2)), "1.01"); // as its text reads, not as it is held
-    EXPECT_EQ(number_text(round_half_away(-9.995, 2)), "-10");
-    EXPECT_EQ(number_text(round_half_away(99.995, 2)), "100");
-    EXPECT_EQ(number_text(round_half_away(12.34, 2)), "12.34");
+    // As a text reads, not as it is held.
+    for (const auto& [value, away] :
+         {std::pair{1.005, "1.01"}, {-9.995, "-10"}, {99.995, "100"}, {12.34, "12.34"}})
+        EXPECT_EQ(number_text(round_half_away(value, 2)), away);
 }
 
 TEST(ValueTextTest, WholeNumbersOverflowInsteadOfWrapping) {
