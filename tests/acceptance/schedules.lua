@@ -39,15 +39,11 @@ for row = 1, 13 do -- past the rows that the grid has at first
         land:advance()
         same(land.activecol .. "," .. land.activerow, "1," .. row)
     end
-    land:type(1, row, "Plot " .. row)
-    land:choose(6, row, "Pune")
-    land:choose(7, row, "Maharashtra")
-    land:choose(8, row, "INDIA")
-    land:type(9, row, "411004")
-    land:type(11, row, tostring(1000 * row))
-    land:type(12, row, "100")
-    land:type(13, row, "1")
-    land:type(16, row, "5/6/2014")
+    for column, name in pairs { [6] = "Pune", [7] = "Maharashtra", [8] = "INDIA" } do land:choose(column, row, name) end
+    for column, text in pairs { "Plot " .. row, [9] = "411004", [11] = tostring(1000 * row), [12] = "100",
+        [13] = "1", [16] = "5/6/2014" } do
+        land:type(column, row, text)
+    end
 end
 same(land:kind(16, 13) .. " " .. land:text(16, 13) .. " " .. tostring(land:locked(13, 13)), "date 05/06/2014 true")
 same(land:backcolor(13, 13), "E0E0E0")
@@ -61,13 +57,9 @@ same(movables:type(1, 1, "x"), false, "a label")
 assets.SSTabAsset:choose(3)
 local firms = assets.sprAssetInterest
 for row = 1, 5 do
-    firms:type(1, row, "Firm " .. row)
-    firms:type(2, row, "Pune")
-    firms:type(3, row, "AAAFJ1234K")
-    firms:type(4, row, "Partner")
-    firms:type(5, row, "12.5")
-    firms:type(6, row, "50000")
-    firms:type(7, row, "1000")
+    for column, text in ipairs { "Firm " .. row, "Pune", "AAAFJ1234K", "Partner", "12.5", "50000", "1000" } do
+        firms:type(column, row, text)
+    end
 end
 same(firms:header(8), "Net Amount  [ (d) - (e) ]")
 same(firms:backcolor(8, 1), "CECECE")
@@ -127,11 +119,10 @@ local deemed = frmDeemedAsset.sprDeemedAsset
 for row = 1, 12 do
     deemed:choose(1, row, row - 1)
     deemed:choose(2, row, row % 11)
-    deemed:type(3, row, "Person " .. row)
-    deemed:type(4, row, "Relative")
-    deemed:type(5, row, "abcde1234f")
-    deemed:type(6, row, "1000")
-    deemed:type(8, row, tostring(row * 100))
+    for column, text in pairs { [3] = "Person " .. row, [4] = "Relative", [5] = "abcde1234f", [6] = "1000",
+        [8] = tostring(row * 100) } do
+        deemed:type(column, row, text)
+    end
 end
 same(texts(deemed, 12, 5, 9), "ABCDE1234F|1000||1200|0")
 same(texts(deemed, 13, 1, 9), "Total|||||12000||7800|4200")

@@ -12,12 +12,12 @@ namespace levora::program {
 
 using computation::frmWealthMain;
 
-class ProgramTest : public testing::Test {
+class ProgramTest : public testing::Test, protected session::testing::FreshStart {
 protected:
     bool start(const std::string& command_line = "2014-2015 17 Individual x 0") {
         program.reset();
-        program = std::make_unique<Program>(session::Surroundings{
-            fresh.desk, fresh.settings, fresh.folder.path(), command_line, fresh.machine_name});
+        program = std::make_unique<Program>(
+            session::Surroundings{desk, settings, folder.path(), command_line, machine_name});
         return program->start();
     }
     widgets::Screens& screens() { return program->session().screens; }
@@ -29,7 +29,6 @@ protected:
         return all;
     }
 
-    session::testing::FreshStart fresh;
     std::unique_ptr<Program> program;
 };
 
@@ -49,36 +48,24 @@ TEST_F(ProgramTest, TheSheetIsTheHubOfAllScreens) {
     };
     for (const Opening& opening : openings) {
         ASSERT_TRUE(start());
+        program->session().BusinessAssetFlag = opening.button == &frmWealthMain::cmdAssets;
+        program->session().DeemedAssetFlag = opening.button == &frmWealthMain::cmdAssets;
         EXPECT_TRUE((sheet().*opening.button).click());
         EXPECT_EQ(screens_shown(), opening.shown);
         EXPECT_EQ(program->session().asset_type(), opening.asset_type) << opening.shown;
-        EXPECT_EQ(fresh.boxes(), "");
+        EXPECT_EQ(boxes(), "");
     }
-}
-
-TEST_F(ProgramTest, AssetsOpenInTheMainScheduleWhateverWasOpenBefore) {
-    ASSERT_TRUE(start());
-    program->session().BusinessAssetFlag = true;
-    program->session().DeemedAssetFlag = true;
-    sheet().cmdAssets.click();
-    EXPECT_EQ(program->session().asset_type(), 0);
 }
 
 TEST_F(ProgramTest, ASecondStartSeesNothingOfTheFirst) {
     ASSERT_TRUE(start("2014-2015 17 Public_Company x 1"));
     sheet().txtLessDebt.type("5");
     sheet().cmdDeemedAssets.click();
-    ASSERT_TRUE(start());
+    EXPECT_FALSE(start("2014-2015 0 Individual x 0") || program->running());
+    ASSERT_TRUE(start() && program->running());
     EXPECT_EQ(screens_shown(), "frmWealthMain");
     EXPECT_EQ(sheet().txtLessDebt.text(), "");
     EXPECT_FALSE(program->session().IsCompanyAssessee || program->session().DeemedAssetFlag);
-}
-
-TEST_F(ProgramTest, TellsWhetherItRuns) {
-    EXPECT_FALSE(start("2014-2015 0 Individual x 0"));
-    EXPECT_FALSE(program->running());
-    EXPECT_TRUE(start());
-    EXPECT_TRUE(program->running());
     sheet().cmdMainExit.click();
     EXPECT_FALSE(program->running());
 }

@@ -78,7 +78,6 @@ tabs.tab = 2
 assert(tabs.tab == 2 and type(tabs:caption(2)) == "string")
 assert(tabs.enabled == true and tabs.visible == true)
 assert(tabs:enabled(1) == true and tabs:visible(1) == true)
-raises("attempt to call a boolean value", function() return (true)() end)
 raises("Invalid procedure call", function() return tabs:enabled(99) end)
 assert(tabs:choose(99) == false)
 

@@ -44,10 +44,3 @@ assert(property:text(2, list) == property:items(2, list)[2])
 assert(property:choose(2, list, property:items(2, list)[1]) and property:index(2, list) == 0)
 assert(property:choose(2, list, "nowhere") == false and property:index(2, list) == 0)
 assert(type(property:hidden(1)) == "boolean")
-
--- a percentage is shown as one and held as a fraction
-local share = kinds.percent
-if share then
-    property:type(2, share, "20")
-    assert(property:text(2, share) == "20%" and property:value(2, share) == 0.2)
-end

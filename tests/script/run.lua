@@ -52,9 +52,3 @@ assert(session("UseResidentialAddress") == false and #messages() == 0)
 assert(store("Assessee", "UPDATE AssesseeInfo SET Assessee_Name = 'B. Client'") == 1)
 assert(start("2014-2015 17 Individual x 0"), "a start while one runs replaces it")
 assert(frmWealthMain.txtAssesseeName.text == "B. Client")
-
--- the lock row of this computer goes on a network installation
-store("LVWTax", "INSERT INTO WTaxAssesseeLocking (ComputerName, AssesseeNo, FY) VALUES ('" .. computer_name() .. "', 17, '')")
-registry([[Software\Meridew Data Works\Levora IT]], "IT Installation", "Server")
-assert(start("2014-2015 17 Individual x 0") and session("ComputerName") == computer_name())
-assert(#store("LVWTax", "SELECT * FROM WTaxAssesseeLocking") == 0)
