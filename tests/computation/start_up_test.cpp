@@ -131,11 +131,4 @@ TEST_F(StartUpTest, AMissingStoreIsReportedUntilThePersonGivesUp) {
     EXPECT_FALSE(fresh.session().TaxDb.is_open());
 }
 
-TEST_F(StartUpTest, ButtonsOfScreensThatAreNotThereAreDisabled) {
-    EXPECT_TRUE(start());
-    for (widgets::Button* button : {&sheet().cmdAssets, &sheet().cmdDeemedAssets, &sheet().cmdExemptedAsset,
-                                    &sheet().cmdformBA, &sheet().cmdChallan, &sheet().cmdPreview})
-        EXPECT_FALSE(button->click()) << button->name();
-}
-
 } // namespace levora::computation

@@ -78,10 +78,8 @@ TEST_F(AnnualRentTest, APropertyWithoutARowTakesTheFiguresShownLast) {
 
 TEST_F(AnnualRentTest, LoadTakesNullsAsNothingAndRestoresTheComputedAmounts) {
     store("Insert Into [Annual Rent] (AssesseeNo, FY, AssetType, PropertyNo, RecievableRent, RepairByTenant, "
-          "DepositAccepted, AmtDepositedformonths) Values (17, '2014-2015', 0, 1, 900, 1, 12000, 4)");
-    store(
-        "Insert Into [Annual Rent] (AssesseeNo, FY, AssetType, PropertyNo, DepositAccepted, RepairByTenant) "
-        "Values (17, '2014-2015', 0, 2, 12000, 2)");
+          "DepositAccepted, AmtDepositedformonths) Values (17, '2014-2015', 0, 1, 900, 1, 12000, 4), "
+          "(17, '2014-2015', 0, 2, Null, 2, 12000, Null)");
     open(2);
     EXPECT_EQ(amounts(), "1: 900 0 100 12000 4 600 0 0 = 1600");
     open(3);

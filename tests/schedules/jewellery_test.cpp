@@ -83,9 +83,7 @@ TEST_F(JewelleryTest, ALoadClearsOnlyAsManyColumnsAsThereAreProperties) {
 
 TEST_F(JewelleryTest, ARecordWithoutAStonesEntryOrWithOneOfItsOwn) {
     store("Insert Into jewellery (AssesseeNo, FY, JwelleryNo, ItemDesc, DescAndWeiOfPreAndSemiPreStones) "
-          "Values (17, '2014-2015', 4, 'A', 0)");
-    store("Insert Into jewellery (AssesseeNo, FY, JwelleryNo, ItemDesc, DescAndWeiOfPreAndSemiPreStones) "
-          "Values (17, '2014-2015', 9, 'B', 'two rubies')");
+          "Values (17, '2014-2015', 4, 'A', 0), (17, '2014-2015', 9, 'B', 'two rubies')");
     EXPECT_EQ(cells(grid(), 2, {1, 2, 5, 7}), "A - Details -");
     EXPECT_EQ(cells(grid(), 3, {1, 5}), "B two rubies");
     save_and_reopen();
