@@ -1,6 +1,7 @@
 #include "desktop/paper_windows.h"
 
 #include "desktop/desktop_desk.h"
+#include "desktop/long_work.h"
 #include "desktop/page_view.h"
 #include "desktop/qt_text.h"
 #include "desktop/screen_window.h"
@@ -10,8 +11,11 @@
 #include "reports/preview_screens.h"
 #include "widgets/failure.h"
 
+#include <QApplication>
 #include <QFileDialog>
 #include <QPrinter>
+
+#include <algorithm>
 
 namespace levora::desktop {
 
@@ -36,10 +40,15 @@ void tell_failure(widgets::Desk& desk, const Failure& failure) {
         {failure.what(), "Levora Wealth Tax", widgets::Icon::exclamation, {widgets::Answer::ok}});
 }
 
+void print_all(const paper::Pages& pages, DesktopDesk& desk, int copies) {
+    LongWork work(QApplication::activeWindow(), QObject::tr("Printing"), std::max(copies, 1) * pages.count());
+    paper::print(pages, *desk.printer(), copies, [&work](int done, int) { return work.go_on(done); });
+}
+
 // Pages and copies as the printer's dialog has them.
 void print_as_chosen(const paper::Pages& pages, DesktopDesk& desk) {
     try {
-        if (desk.choose_printer()) paper::print(pages, *desk.printer(), desk.printer()->copyCount());
+        if (desk.choose_printer()) print_all(pages, desk, desk.printer()->copyCount());
     } catch (const Failure& failure) {
         tell_failure(desk, failure);
     }
@@ -51,7 +60,8 @@ void export_pages(const paper::Pages& pages, QWidget& parent, DesktopDesk& desk)
                                                       QObject::tr("PDF files (*.pdf)"));
     if (path.isEmpty()) return;
     try {
-        paper::save_pdf(pages, from_qt(path));
+        LongWork work(&parent, QObject::tr("Writing the PDF"), pages.count());
+        paper::save_pdf(pages, from_qt(path), [&work](int done, int) { return work.go_on(done); });
     } catch (const Failure& failure) {
         tell_failure(desk, failure);
     }
@@ -91,7 +101,7 @@ void add_sheet_pages(ScreenWindow& window, const std::shared_ptr<const paper::Pa
 
 void print_report(const document::Report& report, DesktopDesk& desk) {
     if (!desk.printer() && !desk.choose_printer()) return;
-    paper::print(paper::Pages(report), *desk.printer(), report.copies);
+    print_all(paper::Pages(report), desk, report.copies);
 }
 
 void print_grid_sheet(const widgets::Grid& grid, DesktopDesk& desk) {
@@ -99,7 +109,7 @@ void print_grid_sheet(const widgets::Grid& grid, DesktopDesk& desk) {
     const bool at_once = desk.printer() && desk.printer()->outputFileName().isEmpty();
     if (!at_once && !desk.choose_printer()) return;
     if (at_once) desk.printer()->setPageRanges({}); // those of another paper
-    paper::print(paper::pages_of_sheet(grid), *desk.printer(), 1);
+    print_all(paper::pages_of_sheet(grid), desk, 1);
 }
 
 } // namespace levora::desktop

@@ -214,6 +214,7 @@ void ScreenWindow::follow_visibility() {
     show();
     raise();
     activateWindow();
+    share_access_keys();
     emit came_up();
 }
 
@@ -258,6 +259,7 @@ bool ScreenWindow::act(const std::function<void()>& what) {
             timer_runs = timer_runs || static_cast<const widgets::Timer*>(control)->running();
     for (const auto& binding : bindings_)
         binding->slide(timer_runs ? Binding::Sliding::yes : Binding::Sliding::no);
+    share_access_keys();
     emit settled();
     return form_ != nullptr;
 }

@@ -94,6 +94,7 @@ private:
     bool key_pressed(const QKeyEvent& event, QObject* watched);
     void focus_came(widgets::Control& control, QObject* widget, Qt::FocusReason reason);
     bool focus_goes(widgets::Control& control);
+    void share_access_keys();
     void cell_entered(const widgets::Grid& grid, int column, int row);
     void restore_place();
     void keep_place() const;

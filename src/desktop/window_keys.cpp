@@ -1,3 +1,4 @@
+#include "desktop/access_keys.h"
 #include "desktop/grid_view.h"
 #include "desktop/key_names.h"
 #include "desktop/qt_text.h"
@@ -5,6 +6,7 @@
 #include "widgets/fields.h"
 #include "widgets/grid.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -40,6 +42,23 @@ bool ScreenWindow::key_pressed(const QKeyEvent& event, QObject* watched) {
         }
     }
     return false;
+}
+
+// What is in view has an access key each; what an open panel covers has given its own up.
+void ScreenWindow::share_access_keys() {
+    QStringList captions;
+    std::vector<QAbstractButton*> buttons;
+    for (const auto& binding : bindings_) {
+        auto* button = qobject_cast<QAbstractButton*>(binding->widget());
+        if (!button || !button->isVisible()) continue;
+        if (button->shortcut().isEmpty()) continue;
+        captions += button->text();
+        buttons.push_back(button);
+    }
+    const QStringList own = with_own_keys(captions);
+    for (std::size_t at = 0; at < buttons.size(); ++at)
+        if (buttons[at]->text() != own[static_cast<qsizetype>(at)])
+            buttons[at]->setText(own[static_cast<qsizetype>(at)]);
 }
 
 void ScreenWindow::keyPressEvent(QKeyEvent* event) {

@@ -5,6 +5,7 @@
 #include "widgets/failure.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QPageLayout>
 #include <QPageRanges>
 #include <QPageSize>
@@ -12,6 +13,8 @@
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QSaveFile>
+
+#include <filesystem>
 
 namespace levora::paper {
 
@@ -31,7 +34,7 @@ QPageLayout page_layout(const Pages& pages) {
 
 } // namespace
 
-QByteArray pdf_of(const Pages& pages) {
+QByteArray pdf_of(const Pages& pages, const PagesTold& told) {
     ensure_application();
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -45,6 +48,7 @@ QByteArray pdf_of(const Pages& pages) {
         writer.setCreator(QStringLiteral("Levora Wealth Tax"));
         QPainter painter(&writer);
         for (int page = 1; page <= pages.count(); ++page) {
+            if (told && !told(page - 1, pages.count())) return {};
             if (page > 1) writer.newPage();
             pages.paint(painter, page, writer.logicalDpiX() / millimetres_per_inch);
         }
@@ -53,19 +57,18 @@ QByteArray pdf_of(const Pages& pages) {
     return bytes;
 }
 
-void save_pdf(const Pages& pages, const std::string& path) {
-    const QByteArray bytes = pdf_of(pages);
+void save_pdf(const Pages& pages, const std::string& path, const PagesTold& told) {
+    const QByteArray bytes = pdf_of(pages, told);
+    if (bytes.isEmpty()) return;
     QSaveFile file(QString::fromStdString(path));
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit()) return;
     throw Failure(error_number::path_access, "Can't write " + path + ": " + file.errorString().toStdString());
 }
 
-void print(const Pages& pages, QPrinter& printer, int copies) {
-    printer.setFullPage(true);
-    printer.setPageLayout(page_layout(pages));
-    printer.setDocName(QString::fromStdString(pages.title()));
-    printer.setCopyCount(1); // copies are painted, as not every printer makes them
-    if (copies < 1) return;
+namespace {
+
+// Paints into an open printer; false when it was given up.
+bool print_pages(const Pages& pages, QPrinter& printer, int copies, const PagesTold& told) {
     const QPageRanges chosen = printer.pageRanges();
     QPainter painter;
     if (!painter.begin(&printer)) {
@@ -74,14 +77,49 @@ void print(const Pages& pages, QPrinter& printer, int copies) {
         throw Failure(printer_error,
                       "The printer " + printer.printerName().toStdString() + " can't be used.");
     }
-    bool first = true;
+    int done = 0;
     for (int copy = 0; copy < copies; ++copy)
         for (int page = 1; page <= pages.count(); ++page) {
             if (!chosen.isEmpty() && !chosen.contains(page)) continue;
-            if (!first) printer.newPage();
-            first = false;
+            if (told && !told(done, copies * pages.count())) {
+                printer.abort();
+                return false;
+            }
+            if (done++ > 0) printer.newPage();
             pages.paint(painter, page, printer.logicalDpiX() / millimetres_per_inch);
         }
+    return true;
+}
+
+} // namespace
+
+void print(const Pages& pages, QPrinter& printer, int copies, const PagesTold& told) {
+    printer.setFullPage(true);
+    printer.setPageLayout(page_layout(pages));
+    printer.setDocName(QString::fromStdString(pages.title()));
+    printer.setCopyCount(1); // copies are painted, as not every printer makes them
+    if (copies < 1) return;
+    const QString file = printer.outputFileName();
+    if (file.isEmpty()) {
+        print_pages(pages, printer, copies, told);
+        return;
+    }
+    // A file stands under its own name only when it is whole.
+    const QString part = file + QStringLiteral(".part");
+    const std::string reason = "Can't write " + file.toStdString();
+    bool whole = false;
+    printer.setOutputFileName(part);
+    try {
+        whole = print_pages(pages, printer, copies, told);
+    } catch (const Failure&) {
+        printer.setOutputFileName(file);
+        throw Failure(error_number::path_access, reason);
+    }
+    printer.setOutputFileName(file);
+    std::error_code error;
+    if (whole) std::filesystem::rename(part.toStdString(), file.toStdString(), error);
+    if (!whole || error) QFile::remove(part);
+    if (error) throw Failure(error_number::path_access, reason + ": " + error.message());
 }
 
 int page_count(const document::Report& report) {

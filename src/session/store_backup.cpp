@@ -8,6 +8,7 @@
 #include "widgets/failure.h"
 
 #include <filesystem>
+#include <iterator>
 #include <list>
 #include <map>
 #include <vector>
@@ -53,12 +54,14 @@ void check_image(const std::string& name, const std::string& image) {
 
 } // namespace
 
-void back_up_folder(const std::string& folder, const std::string& file) {
+void back_up_folder(const std::string& folder, const std::string& file, const WorkTold& told) {
     PartsFile backup(file, PartsFile::Kind::backup);
     {
         const WholeFolder turn(folder); // nobody writes while the copies are taken
+        int done = 0;
         for (const Store each : all_stores) {
             OpenStore store(store_path(folder, each));
+            if (told) told(store.file(), done++, static_cast<int>(std::size(all_stores)));
             backup.put(std::filesystem::path(store.file()).filename().string(), image_of(store));
         }
         for (const auto& [name, content] : working_copies(folder))
@@ -67,12 +70,17 @@ void back_up_folder(const std::string& folder, const std::string& file) {
     backup.finish();
 }
 
-void restore_folder(const std::string& file, const std::string& folder) {
+void restore_folder(const std::string& file, const std::string& folder, const WorkTold& told) {
     const std::map<std::string, std::string> parts = PartsFile::open(file, PartsFile::Kind::backup).parts();
     std::map<std::string, const std::string*> images;
     struct stat found {};
+    int done = 0;
+    const auto tell = [&](const std::string& path) {
+        if (told) told(path, done++, 2 * static_cast<int>(std::size(all_stores))); // looked at, then written
+    };
     for (const Store each : all_stores) {
         const std::string path = store_path(folder, each);
+        tell(path);
         const auto part = parts.find(std::filesystem::path(path).filename().string());
         if (part == parts.end())
             throw Failure(error_number::path_access, file + ": " + path + " is not in it");
@@ -86,6 +94,7 @@ void restore_folder(const std::string& file, const std::string& folder) {
     write_working_copies(folder, parts);
     try {
         for (const auto& [path, image] : images) {
+            tell(path);
             write_new_file(path, *image, shared_file_mode);
             made.push_back(path);
         }

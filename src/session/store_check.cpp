@@ -19,7 +19,7 @@ constexpr std::size_t most_rows_told = 10; // of one kind of fault in one table
 
 class Checker {
 public:
-    explicit Checker(std::string folder) : folder_(std::move(folder)) {}
+    Checker(std::string folder, const WorkTold& told) : folder_(std::move(folder)), told_(told) {}
 
     void check_store(Store store);
     void check_orphans();
@@ -39,6 +39,8 @@ private:
     void check_keys(const TableRule& table);
 
     std::string folder_;
+    const WorkTold& told_;
+    int tables_done_ = 0;
     std::set<std::string_view> sound_tables_;
 };
 
@@ -88,7 +90,11 @@ void Checker::check_store(Store store) {
             if (row[0].text() != "ok" && !row[0].text().starts_with("CHECK constraint failed"))
                 tell(store, "the file is damaged: " + row[0].text());
         for (const TableRule& table : store_tables())
-            if (table.store == store) check_table(table);
+            if (table.store == store) {
+                if (told_)
+                    told_(std::string(table.name), tables_done_++, static_cast<int>(store_tables().size()));
+                check_table(table);
+            }
     } catch (const Failure& failure) {
         tell(store, failure.what());
     }
@@ -173,8 +179,8 @@ void Checker::check_orphans() {
 
 } // namespace
 
-std::vector<std::string> find_faults(const std::string& folder) {
-    Checker checker(folder);
+std::vector<std::string> find_faults(const std::string& folder, const WorkTold& told) {
+    Checker checker(folder, told);
     for (const Store each : all_stores)
         checker.check_store(each);
     checker.check_orphans();

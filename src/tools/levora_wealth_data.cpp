@@ -3,6 +3,7 @@
 #include "session/store_check.h"
 #include "session/whole_folder.h"
 #include "tools/sample_clients.h"
+#include "tools/terminal_line.h"
 #include "widgets/failure.h"
 #include "widgets/value_text.h"
 
@@ -23,6 +24,11 @@ void say(const std::string& line) {
     std::printf("%s\n", line.c_str());
 }
 
+// Tells on the terminal how far the work is.
+auto told_by(levora::tools::TerminalLine& line) {
+    return [&line](const std::string& what, int done, int of) { line.tell(what, done, of); };
+}
+
 int create(const Arguments& arguments) {
     levora::session::create_data_folder(arguments[0]);
     say(arguments[0] + ": four empty stores made");
@@ -36,7 +42,11 @@ int sample(const Arguments& arguments) {
 }
 
 int check(const Arguments& arguments) {
-    const std::vector<std::string> faults = levora::session::find_faults(arguments[0]);
+    std::vector<std::string> faults;
+    {
+        levora::tools::TerminalLine line;
+        faults = levora::session::find_faults(arguments[0], told_by(line));
+    }
     for (const std::string& each : faults)
         say(each);
     say(arguments[0] + ": " + (faults.empty() ? "no fault found" : "faults found"));
@@ -44,13 +54,19 @@ int check(const Arguments& arguments) {
 }
 
 int backup(const Arguments& arguments) {
-    levora::session::back_up_folder(arguments[0], arguments[1]);
+    {
+        levora::tools::TerminalLine line;
+        levora::session::back_up_folder(arguments[0], arguments[1], told_by(line));
+    }
     say(arguments[1] + ": " + arguments[0] + " as it stands now");
     return ok;
 }
 
 int restore(const Arguments& arguments) {
-    levora::session::restore_folder(arguments[0], arguments[1]);
+    {
+        levora::tools::TerminalLine line;
+        levora::session::restore_folder(arguments[0], arguments[1], told_by(line));
+    }
     say(arguments[1] + ": restored from " + arguments[0]);
     return ok;
 }

@@ -73,6 +73,23 @@ TEST_F(LayoutsTest, EveryActingWidgetIsAControlAndNoNameIsTwice) {
     }
 }
 
+// The return's own captions give both "Check With Validator" and "Close" the letter C.
+TEST_F(LayoutsTest, NoTwoButtonsInViewShareAnAccessKey) {
+    for (const std::string& screen : program::Program::screen_names()) {
+        std::map<QString, QString> keys;
+        for (QAbstractButton* button : show(screen).findChildren<QAbstractButton*>()) {
+            const QString key = button->shortcut().toString();
+            if (key.isEmpty() || !button->isVisible()) continue;
+            EXPECT_TRUE(keys.emplace(key, button->text()).second)
+                << screen << ": " << button->text().toStdString() << " and " << keys[key].toStdString();
+        }
+    }
+    EXPECT_EQ(widget<QAbstractButton>("frmFormBA", "cmdClose").shortcut().toString(),
+              QStringLiteral("Alt+C"));
+    EXPECT_EQ(widget<QAbstractButton>("frmFormBA", "cmdValidatitor").text(),
+              QStringLiteral("Check &With Validator"));
+}
+
 TEST_F(LayoutsTest, EveryWindowFitsASmallScreen) {
     for (const std::string& screen : program::Program::screen_names()) {
         const QSize least = show(screen).minimumSizeHint();
