@@ -71,7 +71,7 @@ std::vector<int> GridView::shown_columns(int from, int to) const {
 void GridView::write_cells(const QString& what, const std::vector<CellText>& cells, int without_place) {
     const Range chosen = selected_range();
     int locked = 0;
-    int refused = without_place;
+    int refused = 0;
     bool cancelled = false;
     {
         LongWork work(this, what, static_cast<int>(cells.size()));
@@ -83,7 +83,7 @@ void GridView::write_cells(const QString& what, const std::vector<CellText>& cel
                 break;
             }
             if (!grid_ || cell.column > grid_->columns() || cell.row > grid_->rows()) {
-                ++refused;
+                ++without_place;
                 continue;
             }
             const std::string text =
@@ -105,7 +105,8 @@ void GridView::write_cells(const QString& what, const std::vector<CellText>& cel
         acts_->tell(tr("Cancelled: the cells are as they were."));
     else
         acts_->tell((counted(locked, "locked cell left as it was.", "locked cells left as they were.") +
-                     counted(refused, "value did not fit its cell.", "values did not fit their cells."))
+                     counted(refused, "value did not fit its cell.", "values did not fit their cells.") +
+                     counted(without_place, "value found no cell.", "values found no cell."))
                         .trimmed());
 }
 

@@ -209,7 +209,10 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     }
     if (selection_key(*event)) {
         extending_ = event->modifiers() & Qt::ShiftModifier;
+        const QPersistentModelIndex before = currentIndex();
         QTableView::keyPressEvent(event);
+        // A move that ends where it began still gives the selection up.
+        if (!extending_ && before == currentIndex() && selected_cells() > 1) setCurrentIndex(before);
         extending_ = false;
         return;
     }

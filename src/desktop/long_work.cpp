@@ -25,6 +25,7 @@ bool LongWork::go_on(int done) {
     if (!box_) {
         box_ = std::make_unique<QProgressDialog>(what_, settled_ ? QString() : QObject::tr("Cancel"), 0, of_,
                                                  over_ ? over_->window() : nullptr);
+        box_->setWindowTitle(QStringLiteral("Levora Wealth Tax"));
         box_->setObjectName(QStringLiteral("long_work"));
         box_->setWindowModality(Qt::ApplicationModal);
         box_->setMinimumDuration(0);
