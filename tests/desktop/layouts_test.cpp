@@ -1,5 +1,6 @@
 #include "window_fixture.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
