@@ -15,6 +15,11 @@ constexpr double item_column_width = 14;
 // The labels and the first item can't go: every column added takes its design from the one before.
 constexpr int fewest_columns = 2;
 
+// A count with a fraction reaches as many columns as its change shows.
+int columns_for(double count) {
+    return std::max<int>(to_integer(count + 1), fewest_columns);
+}
+
 void add_item_column(widgets::Grid& spr) {
     spr.add_column();
     spr.set_header(spr.columns(), number_text(spr.columns() - 1));
@@ -113,7 +118,7 @@ void frmImmovable::mnuDeleteColumn_Click() {
         spr.delete_column(spr.active_column());
         const double count = immovable.cboNumberOfProperty.value() - 1;
         immovable.cboNumberOfProperty.set_text(number_text(count));
-        spr.set_columns(std::max(static_cast<int>(count) + 1, fewest_columns));
+        spr.set_columns(columns_for(count));
         renumber_headers(spr, property_words, spr.columns());
     } else if (grid == "sprJewellary") {
         widgets::Grid& spr = jewellery.sprJewellary;
@@ -121,7 +126,7 @@ void frmImmovable::mnuDeleteColumn_Click() {
         spr.delete_column(spr.active_column());
         const double count = jewellery.cboNumberOfJewellery.value() - 1;
         jewellery.cboNumberOfJewellery.set_text(number_text(count));
-        spr.set_columns(std::max(static_cast<int>(count) + 1, fewest_columns));
+        spr.set_columns(columns_for(count));
         cboNumberOfJewellery_Change();
     }
 }

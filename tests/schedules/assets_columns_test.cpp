@@ -59,6 +59,15 @@ TEST_F(AssetsColumnsTest, DeletingTheSecondOfThreeLeavesItsRentUnderTheOldNumber
               "1|2000\n2|3000\n3|4000\n");
 }
 
+TEST_F(AssetsColumnsTest, DeletingUnderACountWithAFractionKeepsTheLastProperty) {
+    own_properties("3.6");
+    properties().type(5, PropertyRow::flat, "Flat 4");
+    properties().set_active(3, 1);
+    assets().mnuDeleteColumn.click();
+    EXPECT_EQ(headers(properties()), "1 2 3");
+    EXPECT_EQ(cells(properties(), 4, {2}), "Flat 4");
+}
+
 TEST_F(AssetsColumnsTest, AddColumnNeedsACountAboveTheColumns) {
     properties().enter();
     for (const char* count : {"0", "3"}) {
