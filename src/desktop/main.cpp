@@ -5,7 +5,9 @@
 #include <QApplication>
 #include <QIcon>
 
+#include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <iostream>
 #include <optional>
 #include <string>
@@ -18,6 +20,7 @@ using namespace levora;
 
 constexpr int wrong_call = 2;
 constexpr int no_display = 1;
+constexpr int broken_off = 3;
 
 constexpr std::string_view call =
     "usage: levora-wealth-tax [options] YEAR ASSESSEE [STATUS [WORD [ADDRESS]]]\n";
@@ -49,6 +52,23 @@ std::optional<std::string> read_command_line(const std::vector<std::string>& wor
     return std::nullopt;
 }
 
+// An exception that no screen could report ends here, not in the toolkit. What was in hand in the stores
+// has been taken back by then.
+class Application final : public QApplication {
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (const std::exception& error) {
+            std::fprintf(stderr, "levora-wealth-tax: %s; the program ends, what was saved stands\n",
+                         error.what());
+            std::_Exit(broken_off);
+        }
+    }
+};
+
 bool has_display() {
     const auto given = [](const char* name) {
         const char* value = std::getenv(name);
@@ -77,7 +97,7 @@ int main(int argc, char** argv) {
     }
     // The words are the program's own: none of them is an option of the toolkit.
     int own_argc = 1;
-    QApplication application(own_argc, argv);
+    Application application(own_argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Levora"));
     QApplication::setApplicationName(QStringLiteral("levora-wealth-tax"));
     QGuiApplication::setDesktopFileName(QStringLiteral("levora-wealth-tax"));

@@ -32,9 +32,14 @@ void keep_first(void* context, xmlError* error) {
     auto& first = *static_cast<FirstFault*>(static_cast<xmlParserCtxt*>(context)->_private);
     if (first.line != 0) return;
     first.line = error->line;
-    first.what = error->message ? error->message : "";
-    while (!first.what.empty() && first.what.back() == '\n')
-        first.what.pop_back();
+    std::string_view what = error->message ? error->message : "";
+    while (what.ends_with('\n'))
+        what.remove_suffix(1);
+    try {
+        first.what = what;
+    } catch (const std::bad_alloc&) {
+        first.what = "not XML"; // the parser is not to be broken off; this needs no memory
+    }
 }
 
 Align align_of(XmlNode& node, Align otherwise) {
@@ -168,6 +173,7 @@ Layout parse_layout(std::string_view text, const std::string& file) {
     // Faults go to the context alone; nothing is printed, no other file and no net is reached.
     const std::unique_ptr<xmlParserCtxt, decltype(&xmlFreeParserCtxt)> context(xmlNewParserCtxt(),
                                                                                &xmlFreeParserCtxt);
+    if (!context) throw std::bad_alloc();
     FirstFault fault;
     context->_private = &fault;
     context->sax->serror = keep_first;
@@ -175,6 +181,7 @@ Layout parse_layout(std::string_view text, const std::string& file) {
         xmlCtxtReadMemory(context.get(), text.data(), static_cast<int>(text.size()), file.c_str(), nullptr,
                           XML_PARSE_NONET | XML_PARSE_BIG_LINES),
         &xmlFreeDoc);
+    if (context->errNo == XML_ERR_NO_MEMORY) throw std::bad_alloc();
     if (!document || !context->nsWellFormed)
         throw Failure(invalid_file_format, file + ", line " + number_text(fault.line) + ": " + fault.what);
     if (document->intSubset)

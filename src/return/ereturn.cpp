@@ -91,7 +91,7 @@ std::string eReturn::PopTag() {
 void eReturn::save(const std::string& path) const {
     try {
         write_whole_file(path, to_windows_1252(text_));
-    } catch (const Failure&) { // a file that could not be had has taken no tag
+    } catch (...) { // a file that could not be had has taken no tag
         session_.XmlIndent = indent_before_;
         session_.XmlTagTop = top_before_;
         throw;

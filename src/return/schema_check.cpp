@@ -23,8 +23,9 @@ struct FreeSchema {
 // Where schemas come from while they are read. The library's loader is one for all and is handed
 // nothing of ours, so this stands beside it.
 std::string schema_folder;
+bool schema_lacks_memory = false;
 
-xmlParserInputPtr load_schema(const char* url, const char*, xmlParserCtxtPtr context) {
+xmlParserInputPtr load_schema(const char* url, const char*, xmlParserCtxtPtr context) try {
     const std::filesystem::path wanted(url ? url : "");
     const std::string name = wanted.filename().string();
     const std::string_view text = built_in_schema(name);
@@ -33,6 +34,9 @@ xmlParserInputPtr load_schema(const char* url, const char*, xmlParserCtxtPtr con
     const std::filesystem::path file = folder / name;
     if (std::filesystem::exists(file)) return xmlNewInputFromFile(context, file.c_str());
     return xmlNewStringInputStream(context, reinterpret_cast<const xmlChar*>(text.data()));
+} catch (const std::bad_alloc&) {
+    schema_lacks_memory = true; // no exception may pass through the library
+    return nullptr;
 }
 
 // For as long as it lives, only schemas are opened.
@@ -40,6 +44,7 @@ class SchemaFilesOnly {
 public:
     explicit SchemaFilesOnly(const std::string& folder) : before_(xmlGetExternalEntityLoader()) {
         schema_folder = folder;
+        schema_lacks_memory = false;
         xmlSetExternalEntityLoader(load_schema);
     }
     ~SchemaFilesOnly() { xmlSetExternalEntityLoader(before_); }
@@ -50,7 +55,10 @@ private:
     xmlExternalEntityLoader before_;
 };
 
-void ignore(void*, xmlErrorPtr) {}
+// Why a schema can't be had; only a want of memory is told apart.
+void note_want_of_memory(void*, xmlErrorPtr error) {
+    if (error->code == XML_ERR_NO_MEMORY) schema_lacks_memory = true;
+}
 
 std::string written_name(const xmlNode* node) {
     const auto* const local = reinterpret_cast<const char*>(node->name);
@@ -69,26 +77,37 @@ int position_among_its_kind(const xmlNode* node) {
 struct Faults {
     std::vector<SchemaFault> list;
     const xmlNode* last = nullptr;
+    bool complete = true;
 };
 
-// The library may tell a facet and the type behind it: one fault for each element.
-void note_fault(void* user, xmlErrorPtr error) {
-    auto& faults = *static_cast<Faults*>(user);
-    const auto* const node = static_cast<const xmlNode*>(error->node);
-    if (!node || node->type != XML_ELEMENT_NODE) return;
-    if (node == faults.last) return;
-    faults.last = node;
+SchemaFault fault_at(const xmlNode* node, int code) {
     SchemaFault fault;
     fault.element = written_name(node);
     fault.value = XmlNode(node).text();
-    fault.misplaced = error->code == XML_SCHEMAV_ELEMENT_CONTENT;
+    fault.misplaced = code == XML_SCHEMAV_ELEMENT_CONTENT;
     if (node->parent && node->parent->type == XML_ELEMENT_NODE) {
         fault.row_element = written_name(node->parent);
         fault.row = position_among_its_kind(node->parent);
         const xmlNode* const outer = node->parent->parent;
         if (outer && outer->type == XML_ELEMENT_NODE) fault.outer_row = position_among_its_kind(outer);
     }
-    faults.list.push_back(std::move(fault));
+    return fault;
+}
+
+// The library may tell a facet and the type behind it: one fault for each element. No exception may
+// pass through the library.
+void note_fault(void* user, xmlErrorPtr error) {
+    auto& faults = *static_cast<Faults*>(user);
+    if (error->code == XML_ERR_NO_MEMORY) faults.complete = false;
+    const auto* const node = static_cast<const xmlNode*>(error->node);
+    if (!node || node->type != XML_ELEMENT_NODE) return;
+    if (node == faults.last) return;
+    faults.last = node;
+    try {
+        faults.list.push_back(fault_at(node, error->code));
+    } catch (const std::bad_alloc&) {
+        faults.complete = false;
+    }
 }
 
 } // namespace
@@ -100,10 +119,10 @@ struct Schema::Compiled {
 Schema::Schema(const std::string& folder) : compiled_(std::make_unique<Compiled>()) {
     const SchemaFilesOnly guard(folder);
     const std::unique_ptr<xmlSchemaParserCtxt, FreeSchema> parser(xmlSchemaNewParserCtxt("Form.xsd"));
-    if (parser) {
-        xmlSchemaSetParserStructuredErrors(parser.get(), ignore, nullptr);
-        compiled_->schema.reset(xmlSchemaParse(parser.get()));
-    }
+    if (!parser) throw std::bad_alloc();
+    xmlSchemaSetParserStructuredErrors(parser.get(), note_want_of_memory, nullptr);
+    compiled_->schema.reset(xmlSchemaParse(parser.get()));
+    if (schema_lacks_memory) throw std::bad_alloc();
     if (!compiled_->schema)
         throw Failure(error_number::path_access, folder + "/Form.xsd can't be used as a schema");
 }
@@ -118,7 +137,9 @@ std::vector<SchemaFault> Schema::faults_of(const XmlDocument& document) const {
     if (!check) throw std::bad_alloc();
     Faults faults;
     xmlSchemaSetValidStructuredErrors(check.get(), note_fault, &faults);
-    xmlSchemaValidateDoc(check.get(), document.get());
+    constexpr int gone_wrong_itself = -1;
+    if (xmlSchemaValidateDoc(check.get(), document.get()) == gone_wrong_itself || !faults.complete)
+        throw std::bad_alloc();
     return std::move(faults.list);
 }
 

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <new>
 #include <set>
 #include <utility>
 
@@ -74,6 +75,10 @@ struct FreeContext {
     void operator()(xmlParserCtxt* context) const { xmlFreeParserCtxt(context); }
 };
 
+struct FreeText {
+    void operator()(xmlChar* text) const { xmlFree(text); }
+};
+
 } // namespace
 
 void XmlDocument::Free::operator()(_xmlDoc* document) const {
@@ -89,12 +94,13 @@ std::optional<XmlDocument> XmlDocument::parse(std::string_view bytes) {
         bytes = converted;
     }
     const std::unique_ptr<xmlParserCtxt, FreeContext> context(xmlNewParserCtxt());
-    if (!context) return std::nullopt;
+    if (!context) throw std::bad_alloc();
     // Entities stay unexpanded and no other file is read, whatever the document asks for.
     constexpr int options = XML_PARSE_NONET | XML_PARSE_BIG_LINES | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
     XmlDocument result;
     result.document_.reset(xmlCtxtReadMemory(context.get(), bytes.data(), static_cast<int>(bytes.size()),
                                              nullptr, utf16 ? nullptr : "UTF-8", options));
+    if (context->errNo == XML_ERR_NO_MEMORY) throw std::bad_alloc();
     if (!result.document_ || !context->wellFormed || !context->nsWellFormed) return std::nullopt;
     if (result.document_->intSubset || result.document_->extSubset) return std::nullopt;
     const xmlNode* const root = xmlDocGetRootElement(result.document_.get());
@@ -120,10 +126,9 @@ std::string XmlNode::text() const {
     const xmlNode* const only = node_->children;
     if (!only) return {};
     if (!only->next && only->type == XML_TEXT_NODE) return std::string(view(only->content));
-    xmlChar* const content = xmlNodeGetContent(node_);
-    std::string text(view(content));
-    xmlFree(content);
-    return text;
+    const std::unique_ptr<xmlChar, FreeText> content(xmlNodeGetContent(node_));
+    if (!content) throw std::bad_alloc();
+    return std::string(view(content.get()));
 }
 
 bool XmlNode::is_named(std::string_view name) const {

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstdio>
 #include <exception>
+#include <new>
 
 namespace levora::script {
 
@@ -37,6 +38,8 @@ bool run_guarded(lua_State* state, Body body, int& results) {
         done = true;
     } catch (const Failure& failure) {
         host.error_text = std::string(failure.what()) + " (error " + std::to_string(failure.number) + ")";
+    } catch (const std::bad_alloc&) {
+        host.error_text = "out of memory"; // short enough to need none
     } catch (const std::exception& error) {
         host.error_text = error.what();
     }

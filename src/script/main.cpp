@@ -90,10 +90,7 @@ std::optional<std::string> run_script(lua_State* state, const std::vector<std::s
     return std::string(text, length);
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-    const std::vector<std::string> words(argv + 1, argv + argc);
+int run(const std::vector<std::string>& words) {
     if (!words.empty() && words.front() == "--help") {
         std::cout << call << program::places_usage << own_usage;
         return 0;
@@ -114,4 +111,15 @@ int main(int argc, char** argv) {
         return script_failed;
     }
     return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return run(std::vector<std::string>(argv + 1, argv + argc));
+    } catch (const std::exception& error) {
+        std::cerr << "levora-wealth-script: " << error.what() << "\n";
+        return script_failed;
+    }
 }

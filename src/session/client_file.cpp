@@ -91,7 +91,7 @@ std::int64_t import_client(const std::string& file, const std::string& folder) {
     write_working_copies(folder, parts);
     try {
         stores.commit();
-    } catch (const Failure&) {
+    } catch (...) {
         remove_working_copies(folder, parts);
         throw;
     }

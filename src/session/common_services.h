@@ -4,6 +4,7 @@
 #include "widgets/failure.h"
 
 #include <cstdint>
+#include <new>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,9 +31,9 @@ struct ProcedureEnded {};
 //         RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
 //     });
 //
-// A step that fails is logged and reported under the procedure's name and tried again for as long as
-// a button answers; dismissing the report ends the procedure (false), and its caller goes on. A
-// Failure outside any step is reported once and ends the procedure.
+// A step that fails, or runs out of memory, is logged and reported under the procedure's name and tried
+// again for as long as a button answers; dismissing the report ends the procedure (false), and its
+// caller goes on. A failure outside any step is reported once and ends the procedure.
 template <class Body> bool procedure(Session& session, std::string_view name, Body body);
 
 // Reports a Failure that no procedure has answered, once, under the event's name.
@@ -48,6 +49,8 @@ public:
                 return step();
             } catch (const Failure& error) {
                 report(error);
+            } catch (const std::bad_alloc&) {
+                report(memory_ran_out);
             }
         }
     }
@@ -65,6 +68,8 @@ template <class Body> bool procedure(Session& session, std::string_view name, Bo
         return true;
     } catch (const Failure& error) {
         report_unanswered(session, name, error);
+    } catch (const std::bad_alloc&) {
+        report_unanswered(session, name, memory_ran_out);
     } catch (const ProcedureEnded&) {
         // The person has dismissed the report: this procedure ends here.
     }

@@ -50,8 +50,8 @@ Connection::Connection() : state_(std::make_unique<State>()) {}
 Connection::~Connection() {
     if (!state_->store) return;
     try {
-        state_->store->commit();
-    } catch (const Failure&) {
+        state_->store->commit_unless_lost();
+    } catch (const std::exception&) {
         state_->store->rollback(); // nobody is left to be told
     }
 }
@@ -100,9 +100,11 @@ int Connection::execute(std::string_view statement) {
     if (!prepared) return 0;
     const bool writes = sqlite3_stmt_readonly(prepared.get()) == 0;
     if (writes) store.begin();
+    store.make_room_to_remember();
+    OpenStore::Written written{translated.text};
     const StatementResult result = store.run(prepared.get());
     prepared.reset();
-    if (writes) store.remember(translated.text, {});
+    if (writes) store.remember(std::move(written));
     store.detach_all();
     return result.rows_touched;
 }
@@ -127,8 +129,24 @@ bool Connection::in_transaction() const {
     return state_->store && state_->store->in_transaction();
 }
 
-void Connection::forget_loss() {
-    if (state_->store) state_->store->forget_loss();
+void Connection::commit_unless_lost() {
+    if (state_->store) state_->store->commit_unless_lost();
+}
+
+bool Connection::take_back() noexcept {
+    return state_->store && state_->store->take_back();
+}
+
+bool Connection::has_loss() const noexcept {
+    return state_->store && state_->store->has_loss();
+}
+
+void Connection::give_up() noexcept {
+    if (state_->store) state_->store->give_up();
+}
+
+void Connection::end_event() noexcept {
+    if (state_->store) state_->store->end_event();
 }
 
 std::string_view base_name(Store store) {
@@ -163,7 +181,7 @@ void create_store(const std::string& folder, Store store) {
             if (const std::string index = create_index_statement(each); !index.empty()) made.run(index);
         }
         made.commit();
-    } catch (const Failure&) {
+    } catch (...) {
         ::unlink(path.c_str());
         throw;
     }

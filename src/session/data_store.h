@@ -114,9 +114,14 @@ public:
     [[nodiscard]] bool in_transaction() const;
 
     // A full or failing disk takes back all rows of the transaction in hand, so that half a save never
-    // stands alone. Trying the failing statement again brings the others back with it; commit() leaves
-    // them until then. This gives them up: the event is over.
-    void forget_loss();
+    // stands alone. The next statement that writes brings them back with it, and so does commit().
+    void commit_unless_lost(); // but not this one, while a person is asked
+    // Takes them back when memory runs out; true when there were any.
+    bool take_back() noexcept;
+    [[nodiscard]] bool has_loss() const noexcept;
+    // All that the event has written and still writes is given up.
+    void give_up() noexcept;
+    void end_event() noexcept;
     // Where open() takes its store from, and where it goes when it is let go. None unless told: then
     // each open() opens the file.
     void keep_in(KeptStores* kept);

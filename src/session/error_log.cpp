@@ -56,7 +56,7 @@ std::filesystem::path state_folder() {
 
 } // namespace
 
-void LogError(Session& session, std::string_view procedure, const Failure& error) {
+void LogError(Session& session, std::string_view procedure, const Failure& error) try {
     const std::string record = "#" + present_moment() + "#," + field(procedure) + "," +
                                number_text(error.number) + "," + field(error.what()) + "\n";
     const std::string name = "ErrorLog.txt";
@@ -64,6 +64,8 @@ void LogError(Session& session, std::string_view procedure, const Failure& error
     std::error_code ignored; // a log that can't be kept stops nobody's work
     std::filesystem::create_directories(state_folder(), ignored);
     append(state_folder() / name, record);
+} catch (const std::exception&) {
+    // Nor is there memory for it: the report that follows is what counts.
 }
 
 } // namespace levora::session

@@ -68,11 +68,25 @@ std::vector<Answer> buttons_of(const ErrorText& text) {
     return {Answer::ok};
 }
 
+// Wherever memory runs out, half a save may stand behind it: none of it goes down.
+const Failure& with_loss(Session& session, const Failure& error) {
+    static const Failure nothing_stored(error_number::out_of_memory,
+                                        "Out of memory (nothing of this save is stored)");
+    const bool lost = error.number == error_number::out_of_memory && session.take_back_all();
+    return lost ? nothing_stored : error;
+}
+
+std::optional<Answer> log_and_show(Session& session, std::string_view name, const Failure& error) {
+    const Failure& told = with_loss(session, error);
+    LogError(session, name, told);
+    return ShowFileError(session, told);
+}
+
 } // namespace
 
 std::optional<Answer> ShowFileError(Session& session, const Failure& error) {
     try {
-        session.commit_all();
+        session.commit_before_waiting();
     } catch (const Failure& of_commit) {
         // The report in hand goes first; that rows did not go down is told at the end of the event.
         LogError(session, "Errors - ShowFileError", of_commit);
@@ -83,13 +97,14 @@ std::optional<Answer> ShowFileError(Session& session, const Failure& error) {
 }
 
 void report_unanswered(Session& session, std::string_view event, const Failure& error) {
-    LogError(session, event, error);
-    ShowFileError(session, error);
+    (void)log_and_show(session, event, error);
+    session.give_up_after(error); // there is no statement to be tried again
 }
 
 void Attempt::report(const Failure& error) const {
-    LogError(session_, name_, error);
-    if (!ShowFileError(session_, error)) throw ProcedureEnded();
+    if (log_and_show(session_, name_, error)) return;
+    session_.give_up_after(error);
+    throw ProcedureEnded();
 }
 
 } // namespace levora::session

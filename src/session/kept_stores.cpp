@@ -2,6 +2,8 @@
 
 #include "session/store_engine.h"
 
+#include <new>
+
 namespace levora::session {
 
 namespace {
@@ -41,7 +43,7 @@ std::unique_ptr<OpenStore> KeptStores::take_unchanged(Shelf& shelf, const std::s
     return std::move(kept.store);
 }
 
-void KeptStores::put_away(Shelf& shelf, std::unique_ptr<OpenStore> store) {
+void KeptStores::put_away(Shelf& shelf, std::unique_ptr<OpenStore> store) noexcept try {
     if (!store->is_at_rest()) return;
     struct stat as_left {};
     // The order matters: a file that is replaced after the first look has moved in the second.
@@ -50,6 +52,8 @@ void KeptStores::put_away(Shelf& shelf, std::unique_ptr<OpenStore> store) {
     if (shelf.size() >= most_kept && !shelf.contains(store->file())) shelf.clear();
     const std::string file = store->file();
     shelf.insert_or_assign(file, Kept{std::move(store), as_left});
+} catch (const std::bad_alloc&) {
+    // There is no memory to keep it: it is closed.
 }
 
 } // namespace levora::session

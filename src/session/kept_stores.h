@@ -33,7 +33,7 @@ private:
     using Shelf = std::map<std::string, Kept>;
 
     static std::unique_ptr<OpenStore> take_unchanged(Shelf& shelf, const std::string& file);
-    static void put_away(Shelf& shelf, std::unique_ptr<OpenStore> store);
+    static void put_away(Shelf& shelf, std::unique_ptr<OpenStore> store) noexcept;
 
     std::shared_ptr<Shelf> shelf_; // gone with this object: users that are left close their stores
 };

@@ -31,9 +31,11 @@ bool is_copy_name(const std::string& name) {
 
 } // namespace
 
-PartsFile::PartsFile(std::string path, Kind kind) : path_(std::move(path)), beside_(path_ + ".part") {
+PartsFile::PartsFile(std::string path, Kind kind) : PartsFile() { // so that a failure takes the file away
+    path_ = std::move(path);
     struct stat found {};
     if (::lstat(path_.c_str(), &found) == 0) throw_file_fault(path_, EEXIST);
+    beside_ = path_ + ".part";
     const int descriptor = ::open(beside_.c_str(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, shared_file_mode);
     if (descriptor < 0) throw_file_fault(beside_, errno);
     (void)::fchmod(descriptor, shared_file_mode);
@@ -53,7 +55,8 @@ PartsFile PartsFile::open(const std::string& path, Kind kind) {
     try {
         const PreparedStatement select = result.store_->prepare("SELECT text FROM mark");
         if (result.store_->step(select.get())) mark = column_value(select.get(), 0).text();
-    } catch (const Failure&) {
+    } catch (const Failure& failure) {
+        if (failure.number != SQLITE_ERROR) throw;
         mark.clear(); // a store of another kind has no such table
     }
     if (mark != mark_of(kind))
@@ -86,6 +89,7 @@ void PartsFile::finish() {
     store_->run("COMMIT");
     store_.reset();
     if (::link(beside_.c_str(), path_.c_str()) != 0) throw_file_fault(path_, errno);
+    sync_folder_of(path_);
 }
 
 std::map<std::string, std::string> working_copies(const std::string& folder, const std::string& start) {
@@ -103,16 +107,16 @@ std::map<std::string, std::string> working_copies(const std::string& folder, con
 
 void write_working_copies(const std::string& folder, const std::map<std::string, std::string>& parts) {
     const std::filesystem::path below = std::filesystem::path(folder) / copies_folder;
-    std::map<std::string, std::string> written;
+    auto next = parts.begin();
     try {
-        for (const auto& [name, content] : parts) {
-            if (!is_copy_name(name)) continue;
+        for (; next != parts.end(); ++next) {
+            if (!is_copy_name(next->first)) continue;
             make_folder(below.string());
-            write_new_file((std::filesystem::path(folder) / name).string(), content, shared_file_mode);
-            written.emplace(name, content);
+            write_new_file((std::filesystem::path(folder) / next->first).string(), next->second,
+                           shared_file_mode);
         }
-    } catch (const Failure&) {
-        remove_working_copies(folder, written);
+    } catch (...) {
+        remove_working_copies(folder, {parts.begin(), next});
         throw;
     }
 }

@@ -84,13 +84,14 @@ void use_up_counter(OpenStore& store, const std::string& table, std::int64_t num
     const std::string text = number_text(static_cast<double>(number));
     std::string statement =
         "UPDATE sqlite_sequence SET seq = max(seq, " + text + ") WHERE name = " + name + " COLLATE NOCASE";
+    store.make_room_to_remember();
     store.run(statement);
     if (sqlite3_changes(store.database()) == 0) {
         statement = "INSERT INTO sqlite_sequence (name, seq) SELECT name, " + text +
                     " FROM sqlite_schema WHERE type = 'table' AND name = " + name + " COLLATE NOCASE";
         store.run(statement);
     }
-    store.remember(statement, {});
+    store.remember({std::move(statement)});
 }
 
 } // namespace
@@ -125,6 +126,11 @@ void RowSet::State::insert_row(OpenStore& writing) {
         insertion_text = insert_statement(table, columns);
         insertion = writing.prepare(insertion_text);
     }
+    make_room(row_numbers);
+    make_room(rows);
+    writing.make_room_to_remember();
+    std::vector<Value> row = edited;
+    OpenStore::Written written{insertion_text, edited};
     // A statement that has failed is made ready again; its failure is known already.
     sqlite3_reset(insertion.get());
     for (std::size_t i = 0; i < edited.size(); ++i)
@@ -132,8 +138,9 @@ void RowSet::State::insert_row(OpenStore& writing) {
     writing.step(insertion.get());
     sqlite3_reset(insertion.get());
     row_numbers.push_back(sqlite3_last_insert_rowid(writing.database()));
-    writing.remember(insertion_text, edited, row_numbers.back());
-    rows.push_back(edited);
+    written.row_number = row_numbers.back();
+    writing.remember(std::move(written));
+    rows.push_back(std::move(row));
     current = rows.size() - 1;
 }
 
@@ -146,13 +153,14 @@ void RowSet::State::update_row(OpenStore& writing) {
     for (std::size_t i = 0; i < columns.size(); ++i)
         if (changed[i]) values.push_back(edited[i]);
     values.emplace_back(row_numbers[current]);
-    const std::string text = "UPDATE " + table + " SET " + assignments + " WHERE rowid = ?";
+    std::string text = "UPDATE " + table + " SET " + assignments + " WHERE rowid = ?";
     const PreparedStatement statement = writing.prepare(text);
     for (std::size_t i = 0; i < values.size(); ++i)
         bind_value(writing, statement.get(), static_cast<int>(i) + 1, values[i]);
+    writing.make_room_to_remember();
     writing.step(statement.get());
     if (sqlite3_changes(writing.database()) == 0) throw Failure(row_is_gone, "Record is deleted.");
-    writing.remember(text, std::move(values));
+    writing.remember({std::move(text), std::move(values)});
     rows[current] = edited;
 }
 

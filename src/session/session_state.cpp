@@ -71,8 +71,11 @@ Session::Session(Surroundings surroundings)
     screens.on_settled = [this] {
         procedure(*this, "Session - commit_all",
                   [this](const Attempt& attempt) { attempt([this] { commit_all(); }); });
-        for (Connection* each : {&TaxDb, &AssesseeDb, &ITDb, &FormsDb})
-            each->forget_loss();
+        end_event();
+    };
+    screens.on_broken_off = [this] {
+        take_back_all();
+        end_event();
     };
 }
 
@@ -93,11 +96,28 @@ Session::Variable Session::variable(std::string_view name) const {
     return {};
 }
 
-void Session::commit_all() {
+bool Session::take_back_all() noexcept {
+    bool any = false;
+    for (Connection* each : {&TaxDb, &AssesseeDb, &ITDb, &FormsDb})
+        any = each->take_back() || any;
+    return any;
+}
+
+void Session::give_up_after(const Failure& error) noexcept {
+    for (Connection* each : {&TaxDb, &AssesseeDb, &ITDb, &FormsDb})
+        if (error.number == error_number::out_of_memory || each->has_loss()) each->give_up();
+}
+
+void Session::end_event() noexcept {
+    for (Connection* each : {&TaxDb, &AssesseeDb, &ITDb, &FormsDb})
+        each->end_event();
+}
+
+void Session::commit_each(void (Connection::*commit)()) {
     std::optional<Failure> first;
     for (Connection* each : {&TaxDb, &AssesseeDb, &ITDb, &FormsDb}) {
         try {
-            each->commit();
+            (each->*commit)();
         } catch (const Failure& error) {
             if (!first) first = error;
         }

@@ -88,9 +88,15 @@ public:
     };
     [[nodiscard]] Variable variable(std::string_view name) const;
 
-    // Brings pending rows of all stores down. Ends a transaction before a box waits for a person, and
-    // each outermost event.
-    void commit_all();
+    // Brings pending rows of all stores down, at the end of each outermost event.
+    void commit_all() { commit_each(&Connection::commit); }
+    // The same before a box waits for a person; rows that a fault has taken back stay in memory.
+    void commit_before_waiting() { commit_each(&Connection::commit_unless_lost); }
+    // Takes the pending rows of all stores back when memory runs out; true when there were any.
+    bool take_back_all() noexcept;
+    // The report of an error was dismissed. Where it cost rows, nothing of this event goes down in that
+    // store; where memory had run out, in none.
+    void give_up_after(const Failure& error) noexcept;
 
     // What a screen's preview button asks of the reports, by the report's name: "Challan282", "FormBB",
     // "RepWealthTax". Reports lie above the screens and register themselves here.
@@ -98,6 +104,11 @@ public:
     // Sends a filled report to the chosen printer: the desktop in earnest, a script records it.
     std::function<void(const std::shared_ptr<document::Report>&)> print_report;
 
+private:
+    void commit_each(void (Connection::*commit)());
+    void end_event() noexcept;
+
+public:
     // Last: its screens refer to all of the above and go first.
     widgets::Screens screens;
 };

@@ -11,6 +11,7 @@
 #include <iterator>
 #include <list>
 #include <map>
+#include <new>
 #include <vector>
 
 #include <sys/stat.h>
@@ -35,8 +36,9 @@ std::string image_of(OpenStore& store) {
 
 void check_image(const std::string& name, const std::string& image) {
     sqlite3* database = nullptr;
-    sqlite3_open(":memory:", &database);
+    const int opened = sqlite3_open(":memory:", &database);
     const std::unique_ptr<sqlite3, CloseDatabase> closing(database);
+    if (opened != SQLITE_OK) throw std::bad_alloc();
     std::vector<unsigned char> bytes(image.begin(), image.end());
     std::string verdict;
     const auto size = static_cast<sqlite3_int64>(bytes.size());
@@ -90,17 +92,16 @@ void restore_folder(const std::string& file, const std::string& folder, const Wo
         images.emplace(path, &part->second);
     }
     make_folder(folder);
-    std::vector<std::string> made;
     write_working_copies(folder, parts);
+    auto next = images.begin();
     try {
-        for (const auto& [path, image] : images) {
-            tell(path);
-            write_new_file(path, *image, shared_file_mode);
-            made.push_back(path);
+        for (; next != images.end(); ++next) {
+            tell(next->first);
+            write_new_file(next->first, *next->second, shared_file_mode);
         }
-    } catch (const Failure&) {
-        for (const std::string& each : made)
-            ::unlink(each.c_str());
+    } catch (...) {
+        for (auto made = images.begin(); made != next; ++made)
+            ::unlink(made->first.c_str());
         remove_working_copies(folder, parts);
         throw;
     }

@@ -144,8 +144,7 @@ void OpenStore::fail(int code) {
     if (is_full_disk(code, database_ ? sqlite3_system_errno(database_.get()) : 0))
         failure = Failure(error_number::disk_full, file_ + ": the disk is full");
     if (begun_ && (is_of_machine(code) || !in_transaction())) {
-        rollback();
-        lost_ = true;
+        take_back();
         throw Failure(failure.number, std::string(failure.what()) + " (nothing of this save is stored)");
     }
     throw failure;
@@ -197,17 +196,17 @@ void OpenStore::attach(const std::vector<AttachedStore>& others) {
         check_file(file);
         const PreparedStatement statement = prepare("ATTACH ? AS " + as_name(each.alias));
         bind_value(*this, statement.get(), 1, file);
+        detaching_.push_back("DETACH " + as_name(each.alias));
         step(statement.get());
-        attached_.push_back(each.alias);
     }
 }
 
-void OpenStore::detach_all() {
+void OpenStore::detach_all() noexcept {
     if (in_transaction()) return;
     // A file that can't be let go now goes with the connection.
-    for (const std::string& alias : attached_)
-        sqlite3_exec(database_.get(), ("DETACH " + as_name(alias)).c_str(), nullptr, nullptr, nullptr);
-    attached_.clear();
+    for (const std::string& each : detaching_)
+        sqlite3_exec(database_.get(), each.c_str(), nullptr, nullptr, nullptr);
+    detaching_.clear();
 }
 
 bool OpenStore::in_transaction() const {
@@ -215,7 +214,7 @@ bool OpenStore::in_transaction() const {
 }
 
 bool OpenStore::is_at_rest() const {
-    return !in_transaction() && !begun_ && !lost_ && written_.empty() && attached_.empty() &&
+    return !in_transaction() && !begun_ && !lost_ && !given_up_ && written_.empty() && detaching_.empty() &&
            sqlite3_next_stmt(database_.get(), nullptr) == nullptr;
 }
 
@@ -231,15 +230,18 @@ void OpenStore::enter_gate() {
 }
 
 void OpenStore::begin_if_writable() {
+    const bool lost = lost_;
     try {
         begin();
     } catch (const Failure& failure) {
         if (failure.number != error_number::permission_denied) throw;
+        lost_ = lost;
     }
 }
 
 void OpenStore::begin() {
     if (in_transaction() && !lost_) return;
+    lost_in_commit_ = false;
     start_transaction();
     if (!lost_) return;
     for (const Written& each : written_)
@@ -249,11 +251,12 @@ void OpenStore::begin() {
 
 void OpenStore::start_transaction() {
     if (lost_) rollback(); // should it still hang on
-    enter_gate();
     try {
+        enter_gate();
         run("BEGIN IMMEDIATE");
-    } catch (const Failure&) {
+    } catch (...) {
         gate_.leave();
+        lost_ = true; // what the event writes later would stand there without this
         throw;
     }
     begun_ = true;
@@ -271,22 +274,42 @@ void OpenStore::write_again(const Written& each) {
                                         "(nothing of this save is stored)");
 }
 
-void OpenStore::remember(std::string text, std::vector<Value> values, std::int64_t row_number) {
-    written_.push_back({std::move(text), std::move(values), row_number});
+void OpenStore::remember(Written&& written) noexcept {
+    written_.push_back(std::move(written));
 }
 
-void OpenStore::forget_loss() {
-    if (!lost_) return;
+bool OpenStore::take_back() noexcept {
+    if (!begun_) return false;
+    rollback();
+    lost_ = true;
+    return true;
+}
+
+void OpenStore::give_up() noexcept {
     rollback();
     written_.clear();
+    lost_ = false;
+    given_up_ = true;
+}
+
+void OpenStore::end_event() noexcept {
+    if (!lost_ && !given_up_) return;
+    rollback();
+    written_.clear();
+    given_up_ = in_transaction(); // without memory even this fails: then it is tried again
+    lost_ = false;
     lost_in_commit_ = false;
-    lost_ = in_transaction(); // without memory even this fails: then it is tried again
+}
+
+void OpenStore::commit_unless_lost() {
+    if (!lost_) commit();
 }
 
 void OpenStore::commit() {
-    // A save that was broken off by the disk goes down whole, when its failing statement is tried
-    // again, or not at all.
-    if (lost_ && !lost_in_commit_) return;
+    if (given_up_) {
+        rollback();
+        return;
+    }
     if (lost_) begin();
     if (!in_transaction()) return;
     lost_in_commit_ = true;
@@ -298,7 +321,7 @@ void OpenStore::commit() {
     detach_all();
 }
 
-void OpenStore::rollback() {
+void OpenStore::rollback() noexcept {
     begun_ = false;
     if (in_transaction()) sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
     gate_.leave();

@@ -23,6 +23,11 @@ struct CloseDatabase {
     void operator()(sqlite3* database) const { sqlite3_close_v2(database); }
 };
 
+// Room for one more, so that adding it can't fail.
+template <class T> void make_room(std::vector<T>& list) {
+    if (list.size() == list.capacity()) list.reserve(2 * list.size() + 8);
+}
+
 // One store file, open: what a connection and its row sets share. All failures of the engine leave
 // here as a Failure with the engine's number and text, and the file's path where it is the file's.
 class OpenStore {
@@ -45,27 +50,42 @@ public:
     // The same, with its rows; a null statement, of blanks only, has none.
     StatementResult run(sqlite3_stmt* statement);
 
+    struct Written {
+        std::string text;
+        std::vector<Value> values = {};
+        std::int64_t row_number = 0; // where it made a row
+    };
+
     // Attaches the other files that a statement names; they go when no transaction needs them.
     void attach(const std::vector<AttachedStore>& others);
-    void detach_all();
+    void detach_all() noexcept;
 
     // Starts the transaction in hand if there is none: waits for the gate. Rows of the same save that
     // a failing disk has taken back are written anew first.
     void begin();
-    // Keeps what a statement of the transaction has written, for that case; the number of the row
-    // where it made one.
-    void remember(std::string text, std::vector<Value> values, std::int64_t row_number = 0);
+    // Keeps what a statement of the transaction has written, for that case. All memory is had before the
+    // statement runs, so that what it wrote is never forgotten.
+    void remember(Written&& written) noexcept; // after make_room_to_remember
+    void make_room_to_remember() { make_room(written_); }
     // The same, but a store that can't be written stays without: its rows can still be read.
     void begin_if_writable();
     // The turn alone, until this store is closed.
     void enter_gate();
-    // Ends it. Rows that could not go down are then not there at all.
+    // Ends it, with the rows that a fault had taken back. Rows that could not go down are then not there
+    // at all.
     void commit();
-    void rollback();
+    // The same before a person is waited for: rows that were taken back stay in memory.
+    void commit_unless_lost();
+    void rollback() noexcept;
     [[nodiscard]] bool in_transaction() const;
 
-    // Gives up the rows of a save that a failing disk has taken back.
-    void forget_loss();
+    // Takes the rows of the transaction in hand back, as a failing disk does; true when there was one.
+    bool take_back() noexcept;
+    // True while rows are taken back by a statement's fault.
+    [[nodiscard]] bool has_loss() const noexcept { return lost_ && !lost_in_commit_; }
+    // They are not written anew then, and nothing more goes down until the event is over.
+    void give_up() noexcept;
+    void end_event() noexcept; // with which a loss is forgotten
 
     // Nothing is under way and nothing left over: no transaction, statement, attached file, lost rows.
     [[nodiscard]] bool is_at_rest() const;
@@ -77,12 +97,6 @@ public:
     [[noreturn]] void fail(int code);
 
 private:
-    struct Written {
-        std::string text;
-        std::vector<Value> values;
-        std::int64_t row_number;
-    };
-
     static int wait_while_busy(void* self, int attempts);
     // A reader who finds writers at work again and again takes a turn as they do, for one step.
     bool borrow_gate();
@@ -96,14 +110,15 @@ private:
     StoreGate gate_;
     std::chrono::milliseconds longest_wait_{std::chrono::seconds(10)};
     std::chrono::steady_clock::time_point busy_until_;
-    std::vector<std::string> attached_;
+    std::vector<std::string> detaching_; // a statement for each file attached
     bool gate_borrowed_ = false;
     bool begun_ = false;
     std::vector<Written> written_; // in the transaction in hand
-    // Set from the moment when written rows were taken back until they stand again. What still comes
-    // of the same save must not go down alone.
+    // Set from the moment when written rows were taken back, or could not be written at all, until they
+    // stand. What still comes of the same save must not go down alone.
     bool lost_ = false;
-    bool lost_in_commit_ = false; // then the transaction had been whole
+    bool lost_in_commit_ = false; // by no statement's fault: the end of the event commits once more
+    bool given_up_ = false;
 };
 
 // "INSERT INTO table (a, b) VALUES (?, ?)"; the table's name as a statement has it.

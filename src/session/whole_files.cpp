@@ -5,7 +5,7 @@
 
 #include <cerrno>
 #include <filesystem>
-#include <memory>
+#include <optional>
 #include <vector>
 
 #include <fcntl.h>
@@ -19,8 +19,10 @@ namespace {
 
 class OpenFile {
 public:
-    OpenFile(const std::string& path, int descriptor) : path_(path), descriptor_(descriptor) {
-        check(descriptor_ >= 0);
+    // `path` is what a fault names.
+    OpenFile(std::string path, const std::string& opened, int flags, mode_t mode = 0)
+        : path_(std::move(path)), descriptor_(::open(opened.c_str(), flags | O_CLOEXEC, mode)) {
+        if (descriptor_ < 0) throw_file_fault(path_, errno);
     }
     ~OpenFile() { ::close(descriptor_); }
     OpenFile(const OpenFile&) = delete;
@@ -51,10 +53,9 @@ class FileBeside {
 public:
     FileBeside(const std::string& path, mode_t mode) : path_(path), beside_(path + ".writing") {
         for (;;) {
-            file_ = std::make_unique<OpenFile>(
-                path_, ::open(beside_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, mode));
+            file_.emplace(path_, beside_, O_RDWR | O_CREAT | O_NOFOLLOW, mode);
             file_->check(::flock(file_->descriptor(), LOCK_EX) == 0);
-            if (still_has_its_name()) break; // else another program has put it in place meanwhile
+            if (is_mine_and_named()) break;
         }
         file_->check(::ftruncate(file_->descriptor(), 0) == 0 && ::fchmod(file_->descriptor(), mode) == 0);
     }
@@ -71,41 +72,51 @@ public:
     void take_place() {
         file_->check(::rename(beside_.c_str(), path_.c_str()) == 0);
         placed_ = true;
-        sync_folder();
+        sync_folder_of(path_);
     }
     // A link is made only where no file stands, unlike a new name.
     void take_free_place() const {
         file_->check(::link(beside_.c_str(), path_.c_str()) == 0);
-        sync_folder();
+        try {
+            sync_folder_of(path_);
+        } catch (...) {
+            ::unlink(path_.c_str());
+            throw;
+        }
     }
 
 private:
-    [[nodiscard]] bool still_has_its_name() const {
+    // Another program may have put it in place meanwhile, and what a colleague's program left when it was
+    // killed can't be given this file's mode: it makes way.
+    [[nodiscard]] bool is_mine_and_named() const {
         struct stat named {};
         struct stat open {};
-        return ::stat(beside_.c_str(), &named) == 0 && ::fstat(file_->descriptor(), &open) == 0 &&
-               named.st_ino == open.st_ino;
-    }
-    // The folder's own entry of the file must reach the disk too.
-    void sync_folder() const {
-        const std::filesystem::path folder = std::filesystem::path(path_).parent_path();
-        const int descriptor =
-            ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-        if (descriptor < 0) return; // a folder that may be written but not read
-        ::fsync(descriptor);
-        ::close(descriptor);
+        file_->check(::fstat(file_->descriptor(), &open) == 0);
+        if (::stat(beside_.c_str(), &named) != 0 || named.st_ino != open.st_ino) return false;
+        if (open.st_uid == ::geteuid()) return true;
+        file_->check(::unlink(beside_.c_str()) == 0);
+        return false;
     }
 
     std::string path_;
     std::string beside_;
-    std::unique_ptr<OpenFile> file_;
+    std::optional<OpenFile> file_;
     bool placed_ = false;
 };
 
 } // namespace
 
+void sync_folder_of(const std::string& path) {
+    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+    const int descriptor = ::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor < 0) return; // a folder that may be written but not read
+    const int failed = ::fsync(descriptor) == 0 ? 0 : errno;
+    ::close(descriptor);
+    if (failed == EIO || failed == ENOSPC || failed == EDQUOT) throw_file_fault(path, failed);
+}
+
 std::string read_whole_file(const std::string& path) {
-    const OpenFile file(path, ::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    const OpenFile file(path, path, O_RDONLY);
     std::string content;
     std::vector<char> buffer(1 << 16);
     for (;;) {

@@ -15,4 +15,7 @@ void replace_whole_file(const std::string& path, std::string_view content, mode_
 // The same, but never over a file that is there (75).
 void write_new_file(const std::string& path, std::string_view content, mode_t mode);
 
+// The folder's own entry of a file reaches the disk.
+void sync_folder_of(const std::string& path);
+
 } // namespace levora::session

@@ -86,15 +86,13 @@ void create_data_folder(const std::string& folder) {
         if (::lstat(store_path(folder, each).c_str(), &found) == 0)
             throw Failure(error_number::path_access, store_path(folder, each) + ": there is a store already");
     make_folder(folder);
-    std::vector<std::string> made;
+    const Store* next = std::begin(all_stores);
     try {
-        for (const Store each : all_stores) {
-            create_store(folder, each);
-            made.push_back(store_path(folder, each));
-        }
-    } catch (const Failure&) {
-        for (const std::string& each : made)
-            ::unlink(each.c_str());
+        for (; next != std::end(all_stores); ++next)
+            create_store(folder, *next);
+    } catch (...) {
+        for (const Store* made = std::begin(all_stores); made != next; ++made)
+            ::unlink(store_path(folder, *made).c_str());
         throw;
     }
 }

@@ -18,6 +18,7 @@ public:
 namespace error_number {
 constexpr int invalid_call = 5;
 constexpr int overflow = 6;
+constexpr int out_of_memory = 7;
 constexpr int subscript = 9;
 constexpr int type_mismatch = 13;
 constexpr int bad_file_name = 52;
@@ -35,6 +36,9 @@ constexpr int closed_row_set = 3704;
 constexpr int closed_connection = 3709;
 constexpr int printer_cancelled = 32755;
 } // namespace error_number
+
+// What a person is told when memory runs out anywhere. It is made beforehand, as nothing can be made then.
+extern const Failure memory_ran_out;
 
 // Thrown by conversions whose text is no number, or no value of the wanted type (13).
 [[noreturn]] void throw_type_mismatch();

@@ -1,6 +1,7 @@
 #include "widgets/screens.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 namespace levora::widgets {
@@ -108,16 +109,24 @@ void Screens::run_event(std::string_view name, const std::function<void()>& hand
         handler();
         return;
     }
-    {
-        const Depth depth(depth_);
-        try {
-            handler();
-        } catch (const Failure& failure) {
-            if (!on_unanswered) throw;
-            on_unanswered(name, failure);
+    try {
+        {
+            const Depth depth(depth_);
+            try {
+                handler();
+            } catch (const Failure& failure) {
+                if (!on_unanswered) throw;
+                on_unanswered(name, failure);
+            } catch (const std::bad_alloc&) {
+                if (!on_unanswered) throw;
+                on_unanswered(name, memory_ran_out);
+            }
         }
+        settle();
+    } catch (...) {
+        if (on_broken_off) on_broken_off();
+        throw;
     }
-    settle();
 }
 
 void Screens::settle() {

@@ -61,6 +61,10 @@ public:
     // Runs at the end of every outermost event: pending rows go down to the stores.
     std::function<void()> on_settled;
 
+    // Runs, and may not fail, when an outermost event ends without having settled: with an exception that
+    // is no Failure, or without the memory for a report.
+    std::function<void()> on_broken_off;
+
     // Windows listen here for screens that come and go.
     std::function<void(Form&)> on_loaded;
     std::function<void(Form&)> on_shown;

@@ -6,7 +6,6 @@
 #include <fstream>
 #include <sstream>
 
-#include <signal.h>
 #include <stdlib.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -150,30 +149,6 @@ TEST_F(SettingsTest, LiesInTheUsersConfigurationFolder) {
     ::setenv("XDG_CONFIG_HOME", folder.c_str(), 1);
     EXPECT_EQ(Settings::default_path(), folder + "/levora-wealth-tax/settings.toml");
     ::unsetenv("XDG_CONFIG_HOME");
-}
-
-TEST_F(SettingsTest, AKillWhileItWritesLeavesTheOldFileOrTheNewAndNothingElse) {
-    Settings settings(path);
-    const std::string long_value(20000, 'x');
-    settings.write("a", "before", long_value);
-    for (int kills = 0; kills < 60; ++kills) {
-        const pid_t child = ::fork();
-        if (child == 0) {
-            Settings writing(path);
-            for (std::int64_t i = 0;; ++i)
-                writing.write("a", "count", i);
-        }
-        ::usleep(static_cast<useconds_t>(500 + 97 * kills));
-        ::kill(child, SIGKILL);
-        ::waitpid(child, nullptr, 0);
-        ASSERT_EQ(settings.fault(), "");
-        ASSERT_EQ(shown(settings.read("a", "before")), long_value);
-    }
-    EXPECT_TRUE(settings.write("a", "after", "y"));
-    int files = 0;
-    for ([[maybe_unused]] const auto& each : std::filesystem::directory_iterator(folder + "/below"))
-        ++files;
-    EXPECT_EQ(files, 2) << "the settings and their lock";
 }
 
 TEST_F(SettingsTest, SeveralProgramsWriteWithoutLosingOneAnothersValues) {
