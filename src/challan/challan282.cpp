@@ -42,6 +42,7 @@ frmChallan282::frmChallan282(Session& session)
       cboAssessmentYear(*this, "cboAssessmentYear", ListStyle::editable, "Assessment &Year",
                         assessment_years()) {
     design();
+    add_rules();
     wire_lists();
     wire_options();
     wire_amounts();

@@ -119,6 +119,7 @@ private:
     void wire_lists();
     void wire_options();
     void wire_amounts();
+    void add_rules();
     void wire_other_fields();
     void wire_buttons();
 
@@ -143,6 +144,9 @@ private:
     void show_options(const session::RowSet& row);
     void list_saved_challan();
     [[nodiscard]] int listed_row() const; // of the challan on the screen, -1 when none
+
+    const widgets::Rule* cess_ = nullptr;
+    const widgets::Rule* unrounded_cess_ = nullptr;
 
     bool ChallanDirty = false;  // something changed since the last load, clear or save
     int ListRow = -1;           // of cboChallanList: the challan now shown, -1 when none

@@ -2,8 +2,10 @@
 
 #include "widgets/value_text.h"
 
+#include <algorithm>
 #include <array>
-#include <initializer_list>
+#include <span>
+#include <vector>
 
 namespace levora::challan {
 
@@ -28,6 +30,25 @@ constexpr std::array cess_years{
     CessYear{"2009-2010", 0.03, false, false},
 };
 
+const CessYear* cess_year(std::string_view assessment_year) {
+    const auto* found = std::ranges::find(cess_years, assessment_year, &CessYear::assessment_year);
+    return found == cess_years.end() ? nullptr : found;
+}
+double cess_rate(const Form& form) {
+    const CessYear* year = cess_year(static_cast<const frmChallan282&>(form).cboAssessmentYear.text());
+    return year ? year->rate : 0;
+}
+double cess_of(std::span<const double> tax_surcharge_rate) {
+    const double rate = tax_surcharge_rate[2];
+    return rate > 0 ? (tax_surcharge_rate[0] + tax_surcharge_rate[1]) * rate : no_figure;
+}
+double rounded_cess_of(std::span<const double> tax_surcharge_rate) {
+    return round_half_even(cess_of(tax_surcharge_rate));
+}
+constexpr std::string_view cess_words = "$3 times the sum of $1 and $2";
+constexpr Reckoning exact_cess{cess_of, cess_words, "the rate of the assessment year"};
+constexpr Reckoning cess_in_rupees{rounded_cess_of, cess_words, "the rate of the assessment year"};
+
 // Days of the financial year, April first, so that dates compare by one number.
 constexpr int day_from_april(int month, int day) {
     return (month + 8) % 12 * 100 + day;
@@ -43,12 +64,13 @@ int instalment_of(const Date& date) {
 }
 
 // Added up in 32 bits from left to right; a sum in between that does not fit is an overflow too.
-std::int32_t sum_of(std::initializer_list<std::int32_t> amounts) {
+double total_of(std::span<const double> amounts) {
     std::int32_t sum = 0;
-    for (const std::int32_t amount : amounts)
-        sum = to_long(static_cast<double>(sum) + static_cast<double>(amount));
+    for (const double amount : amounts)
+        sum = to_long(static_cast<double>(sum) + static_cast<double>(to_long(amount)));
     return sum;
 }
+constexpr Reckoning total_of_amounts{total_of};
 
 } // namespace
 
@@ -97,16 +119,26 @@ void frmChallan282::cboAssessmentYear_Click() {
 }
 
 void frmChallan282::apply_cess(CessSite site) {
-    const double base = txtIncomeTax.value() + txtSurcharge.value();
-    for (const CessYear& each : cess_years) {
-        if (each.assessment_year != cboAssessmentYear.text()) continue;
-        // Wanted: the click on the year alone leaves the figure unrounded.
-        if (site == CessSite::year_click) {
-            if (each.from_year) txtEducationCess.set_value(base * each.rate);
-        } else if (site == CessSite::income_tax || each.from_surcharge) {
-            txtEducationCess.set_value(round_half_even(base * each.rate));
-        }
+    const CessYear* year = cess_year(cboAssessmentYear.text());
+    if (!year) return;
+    // Wanted: the click on the year alone leaves the figure unrounded.
+    if (site == CessSite::year_click) {
+        if (year->from_year) unrounded_cess_->work_out();
+    } else if (site == CessSite::income_tax || year->from_surcharge) {
+        cess_->work_out();
     }
+}
+
+void frmChallan282::add_rules() {
+    const std::vector<Source> sources{txtIncomeTax, txtSurcharge, {cboAssessmentYear, cess_rate}};
+    rules.tell(txtEducationCess, "typed here");
+    unrounded_cess_ = &rules.add({txtEducationCess, sources, exact_cess});
+    cess_ = &rules.add({txtEducationCess, sources, cess_in_rupees});
+    rules.add({txtTotal,
+               {txtIncomeTax, txtSurcharge, txtEducationCess, txtInterest, txtPenalty, txtOther},
+               total_of_amounts});
+    rules.tell(txtInstallmentNo, "typed here, or the one of advance tax that $1 falls into",
+               {mskChallanDate});
 }
 
 void frmChallan282::take_amount(const TextField& field, std::int32_t& amount, std::optional<CessSite> cess) {
@@ -120,8 +152,11 @@ void frmChallan282::take_amount(const TextField& field, std::int32_t& amount, st
 void frmChallan282::CalcChallanTotal() {
     procedure(session_, "frmChallan282 - CalcChallanTotal", [&](const Attempt& attempt) {
         attempt([&] {
-            TotalAmount = sum_of({IncomeTaxAmount, SurchargeAmount, EducationCessAmount, InterestAmount,
-                                  PenaltyAmount, OtherAmount});
+            const std::array<double, 6> amounts{
+                static_cast<double>(IncomeTaxAmount),     static_cast<double>(SurchargeAmount),
+                static_cast<double>(EducationCessAmount), static_cast<double>(InterestAmount),
+                static_cast<double>(PenaltyAmount),       static_cast<double>(OtherAmount)};
+            TotalAmount = to_long(total_of_amounts.figure(amounts));
         });
         attempt([&] { txtTotal.set_text(group_indian(TotalAmount)); });
     });

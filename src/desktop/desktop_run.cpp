@@ -5,6 +5,7 @@
 #include "desktop/qt_text.h"
 #include "desktop/screen_window.h"
 #include "desktop/sheet_extras.h"
+#include "desktop/why_panel.h"
 #include "paper/sheet_paper.h"
 #include "widgets/form.h"
 
@@ -52,6 +53,7 @@ void DesktopRun::tie_paper() {
 
 void DesktopRun::window_made(ScreenWindow* window) {
     const std::string& screen = window->form()->name();
+    add_why(*window, windows_);
     if (screen == "frmWealthMain" || screen == "frmImmovable") add_sheet_extras(*window, program_.session());
     if (screen == "frmWealthMain" || screen == "frmFormBA")
         keep_edits(*window, program_.session(), [this](const QString& question) {

@@ -5,10 +5,8 @@
 #include "desktop/screen_window.h"
 #include "schedules/asset_composition.h"
 #include "session/session_state.h"
-#include "widgets/explanation.h"
 #include "widgets/fields.h"
 #include "widgets/form.h"
-#include "widgets/grid.h"
 
 #include <QTimer>
 
@@ -41,19 +39,6 @@ constexpr std::array asset_lines{
     ChartLine{"txtNetBusinessAssets", false},    ChartLine{"txtNetJewellery", false},
 };
 
-// The part of a field's words that fits a chart: without number and brackets.
-QString short_words(const std::string& label) {
-    QString words = plain_words(label);
-    const auto bracket = words.indexOf(QLatin1Char('['));
-    if (bracket > 0) words.truncate(bracket);
-    const auto relation = words.indexOf(QStringLiteral(" in relation"));
-    if (relation > 0) words.truncate(relation);
-    const auto number = words.indexOf(QStringLiteral(". "));
-    if (number == 1) words = words.mid(3);
-    if (words.startsWith(QStringLiteral("Add: "))) words = words.mid(5);
-    return words.trimmed();
-}
-
 CompositionChart::Bar bar(const QString& words, double amount, bool total) {
     return {words, amount, to_qt(group_indian_text(number_text(amount))), total};
 }
@@ -73,7 +58,7 @@ void show_composition(const ScreenWindow& window, CompositionChart& chart) {
     for (const ChartLine& line : chart_lines) {
         const auto* field = static_cast<const widgets::TextField*>(form.find(line.control));
         if (!field) continue;
-        bars.push_back(bar(short_words(field->label), field->value(), line.total));
+        bars.push_back(bar(to_qt(form.rules.name_of(*field)), field->value(), line.total));
     }
     chart.show_bars(std::move(bars));
 }
@@ -86,19 +71,9 @@ void show_schedules(session::Session& session, CompositionChart& chart) {
     chart.show_bars(std::move(bars));
 }
 
-void tell_why(ScreenWindow& window, const widgets::Control* control) {
-    if (!control) return;
-    const auto* grid = dynamic_cast<const widgets::Grid*>(control);
-    const widgets::Explanation why =
-        grid ? explain(*grid, grid->active_column(), grid->active_row()) : explain(*control);
-    window.tell(to_qt(why.sentence));
-}
-
 } // namespace
 
 void add_sheet_extras(ScreenWindow& window, session::Session& session) {
-    QObject::connect(&window, &ScreenWindow::explanation_wanted, &window,
-                     [&window](const widgets::Control* control) { tell_why(window, control); });
     auto* chart = window.findChild<CompositionChart*>(QStringLiteral("composition"));
     if (!chart) return;
     // A chain of figures is drawn once, when it stands.

@@ -9,7 +9,7 @@ namespace levora::desktop {
 class ScreenWindow;
 
 // What the windows of the sheet and of the assets show beyond their fields: charts of how assets become
-// tax and of what the assets are made of, and on F1 why a figure of the sheet is what it is.
+// tax and of what the assets are made of.
 void add_sheet_extras(ScreenWindow& window, session::Session& session);
 
 } // namespace levora::desktop

@@ -178,6 +178,7 @@ void frmFormBA::tell_fills() {
         rules.tell({this->*fill.grid, {fill.column, 1, fill.column, widgets::last_of_grid}}, fill.from);
     for (const FromSheet& fill : sheet_fills)
         rules.tell(this->*fill.field, fill.from);
+    rules.tell(txtReceiptNo, "open for typing in a revised return only");
 }
 
 void frmFormBA::FillFromSchedules() {

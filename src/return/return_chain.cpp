@@ -126,7 +126,6 @@ void frmFormBA::add_totals() {
                                  as_it_is});
     for (const auto& [field, name] : names)
         rules.call(this->*field, name);
-    rules.open_with({&sprPreciousStone}, sprJewellery, 1);
 }
 
 void frmFormBA::sprScheduleBTP_Change() {

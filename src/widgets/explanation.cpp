@@ -94,6 +94,12 @@ private:
     [[nodiscard]] std::string title() const { return form_.rules.name_of(control_, column_, row_); }
     [[nodiscard]] std::string titled_figure() const { return title() + " " + shown(); }
 
+    // Of a field that holds words, the words.
+    [[nodiscard]] std::string titled_text() const {
+        if (as_grid(control_) || strict_number(text())) return titled_figure();
+        return title() + (is_empty() ? "" : " " + text());
+    }
+
     // As it stands on the screen.
     [[nodiscard]] std::string shown() const {
         const std::optional<double> whole = strict_number(text());
@@ -132,10 +138,11 @@ private:
     }
 
     void by_words(const Rule& rule) {
-        told_.sentence = titled_figure() + ": " + filled(rule.how.words, rule.sources);
+        told_.sentence = (rule.handed_over ? titled_figure() : titled_text()) + ": " +
+                         filled(rule.how.words, rule.sources);
         if (!rule.handed_over) return;
         const HandOver& given = *rule.handed_over;
-        told_.ways.push_back({std::string(given.words),
+        told_.ways.push_back({std::string(given.words) + in_brackets(given.caution),
                               std::string(given.from_screen),
                               std::string(given.from_control),
                               given.from_column,

@@ -62,9 +62,10 @@ struct HandOver {
     std::string_view from_screen, from_control;
     int from_column, from_row; // 0 for a field, or for a grid as a whole
     std::string_view to_screen, to_control;
-    std::string_view words;  // of what is handed over: "the total of the assets screen"
-    std::string_view opener; // the button that opens the giving screen, on the receiving one
+    std::string_view words;              // of what is handed over: "the total of the assets screen"
+    std::string_view opener;             // the button that opens the giving screen, on the receiving one
     std::string_view opener_screen = {}; // or on this
+    std::string_view caution = {};       // what going there by that button costs
 };
 
 enum class Write {

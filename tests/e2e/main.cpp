@@ -96,6 +96,7 @@ void sheet(Person& person) {
     person.click("txtNetWealth");
     person.keys({QStringLiteral("F1")});
     person.picture("why");
+    person.keys({QStringLiteral("Escape")});
     person.click("cmdSATaxPayable");
     person.type_cell("sprSATax", 1, 1, "State Bank");
     person.type_cell("sprSATax", 3, 1, "0002345");

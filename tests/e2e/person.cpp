@@ -12,6 +12,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPainter>
 #include <QProcess>
 #include <QScreen>
 #include <QTabBar>
@@ -112,8 +113,11 @@ void Person::expect_cell(const char* grid, int column, int row, const std::strin
 void Person::picture(const std::string& name) {
     look([&] {
         QWidget* shown = box_or_window();
-        return shown &&
-               shown->grab().save(pictures_ + QLatin1Char('/') + to_qt(name) + QStringLiteral(".png"));
+        if (!shown) return false;
+        QPixmap taken = shown->grab();
+        if (QWidget* popup = QApplication::activePopupWidget())
+            QPainter(&taken).drawPixmap(shown->mapFromGlobal(popup->pos()), popup->grab());
+        return taken.save(pictures_ + QLatin1Char('/') + to_qt(name) + QStringLiteral(".png"));
     });
 }
 
