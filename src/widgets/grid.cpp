@@ -120,8 +120,8 @@ bool Grid::hold_number(int column, int row, double number) {
         cell.number = shown / 100;
         cell.text = number_text(shown) + "%";
     } else {
-        cell.number = design.decimals < 0 ? number : round_half_away(number, design.decimals);
-        cell.text = number_text(cell.number);
+        cell.text = number_text(design.decimals < 0 ? number : round_half_away(number, design.decimals));
+        cell.number = val(cell.text); // as shown: a figure lives as text, so 0.1 + 0.2 is 0.3
     }
     return true;
 }
@@ -276,6 +276,8 @@ void Grid::put_formula_result(int column, int row, double result) {
     double held = result;
     if (cell.design->kind == CellKind::number && cell.design->decimals >= 0)
         held = round_half_away(result, cell.design->decimals);
+    // As its text tells it; else 3.01 and a fifth of it would be less than 3.612.
+    held = val(number_text(held));
     if (cell.number == held && !cell.text.empty()) return;
     cell.number = held;
     cell.text = cell.design->kind == CellKind::percent ? percent_text(held, cell.design->decimals)

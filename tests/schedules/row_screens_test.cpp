@@ -107,6 +107,7 @@ TEST_F(BusinessAssetsTest, TheSingleValueIsTakenOnlyAboveAFifthMore) {
     };
     constexpr Case cases[] = {
         {"exactly 120 %", "1000", "1200", "200|1200|1200|Details|1000"},
+        {"exactly 120 % of a figure with paise", "3.01", "3.612", "0.602|3.612|3.612|Details|3.01"},
         {"just above", "1000", "1201", "200|1200|1201|Details|1201"},
         {"nothing single", "1000", "", "200|1200||Details|1000"},
         {"the limit is not rounded", "1003", "1204", "200.6|1203.6|1204|Details|1204"},
