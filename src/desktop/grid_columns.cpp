@@ -23,6 +23,7 @@ namespace {
 
 constexpr int row_height = 24;
 constexpr int cell_padding = 14;
+constexpr int header_padding = 22; // with what the style puts around the words
 constexpr int button_padding = 34;
 constexpr int tick_width = 24;
 constexpr int measured_rows = 60;               // rows further down need what these need
@@ -127,7 +128,7 @@ ColumnNeed GridView::need_of(int column) const {
     }
     QFont bold = column_header_->font();
     bold.setBold(true);
-    const int header = longest_word(QFontMetrics(bold), to_qt(grid_->header(column))) + cell_padding;
+    const int header = longest_word(QFontMetrics(bold), to_qt(grid_->header(column))) + header_padding;
     const double told_characters =
         grid_->column_width(column) > 0 ? grid_->column_width(column) : default_width_characters;
     ColumnNeed need{header, static_cast<int>(told_characters * character) + cell_padding, 0};
@@ -201,7 +202,7 @@ void GridView::size_header() {
     for (int column = 1; column <= std::min(grid_->columns(), column_header_->count()); ++column) {
         if (grid_->hidden(column)) continue;
         const QString words = to_qt(grid_->header(column));
-        const int room = column_header_->sectionSize(column - 1) - cell_padding;
+        const int room = column_header_->sectionSize(column - 1) - header_padding;
         if (metrics.horizontalAdvance(words) <= room) continue;
         const QRect needed =
             metrics.boundingRect(0, 0, std::max(room, 1), 400, Qt::TextWordWrap | Qt::AlignCenter, words);
@@ -222,7 +223,7 @@ void GridView::fit_column(int section) {
     if (!grid_ || section >= grid_->columns()) return;
     QFont bold = column_header_->font();
     bold.setBold(true);
-    const int header = longest_word(QFontMetrics(bold), to_qt(grid_->header(section + 1))) + cell_padding;
+    const int header = longest_word(QFontMetrics(bold), to_qt(grid_->header(section + 1))) + header_padding;
     column_header_->resizeSection(section,
                                   std::min(std::max(header, contents_width(section + 1)), widest_by_fitting));
     kept_by_hand(section);

@@ -35,6 +35,17 @@ PageSource source_of(const std::shared_ptr<const paper::Pages>& pages) {
     return source;
 }
 
+// The person has cancelled the laying out of pages.
+class Cancelled {};
+
+std::shared_ptr<const paper::Pages> pages_of(const document::Report& report, QWidget* over) {
+    constexpr int parts = 1000;
+    LongWork work(over, QObject::tr("Laying out the pages"), parts);
+    return std::make_shared<const paper::Pages>(report, [&work](int done, int of) {
+        if (!work.go_on(static_cast<int>(qint64{parts} * done / of))) throw Cancelled();
+    });
+}
+
 void tell_failure(widgets::Desk& desk, const Failure& failure) {
     desk.show_message(
         {failure.what(), "Levora Wealth Tax", widgets::Icon::exclamation, {widgets::Answer::ok}});
@@ -86,7 +97,9 @@ void add_report_pages(ScreenWindow& window, DesktopDesk* desk) {
         if (!window.attached()) return;
         const auto& report = static_cast<const reports::frmRepPreview*>(window.form())->report();
         try {
-            if (report) show_in(*view, std::make_shared<const paper::Pages>(*report), desk);
+            if (report) show_in(*view, pages_of(*report, &window), desk);
+        } catch (const Cancelled&) {
+            QMetaObject::invokeMethod(&window, &QWidget::close, Qt::QueuedConnection); // nothing to show
         } catch (const Failure& failure) {
             if (desk) tell_failure(*desk, failure); // a font is missing: the window stays, empty
         }
@@ -101,7 +114,11 @@ void add_sheet_pages(ScreenWindow& window, const std::shared_ptr<const paper::Pa
 
 void print_report(const document::Report& report, DesktopDesk& desk) {
     if (!desk.printer() && !desk.choose_printer()) return;
-    print_all(paper::Pages(report), desk, report.copies);
+    try {
+        print_all(*pages_of(report, QApplication::activeWindow()), desk, report.copies);
+    } catch (const Cancelled&) {
+        return; // nothing was printed
+    }
 }
 
 void print_grid_sheet(const widgets::Grid& grid, DesktopDesk& desk) {

@@ -88,11 +88,11 @@ std::string author_of(const document::Report& report) {
 
 } // namespace
 
-Pages::Pages(const document::Report& report)
+Pages::Pages(const document::Report& report, const RowsTold& told)
     : title_(report.layout().title), author_(author_of(report)),
       size_(report.layout().page_width, report.layout().page_height) {
     Fonts fonts;
-    pages_ = lay_out(fonts, report);
+    pages_ = lay_out(fonts, report, told);
 }
 
 Pages::Pages(std::string title, std::string author, QSizeF size, std::vector<Marks> pages)

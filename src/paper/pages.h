@@ -6,6 +6,7 @@
 #include <QSizeF>
 #include <QString>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,8 +22,11 @@ namespace levora::paper {
 // nothing of what it was made from.
 class Pages {
 public:
+    // Hears how many rows of a report are laid out; what it throws gives the work up.
+    using RowsTold = std::function<void(int done, int of)>;
+
     // A report that has been filled. A Failure 321 when a font family is missing.
-    explicit Pages(const document::Report& report);
+    explicit Pages(const document::Report& report, const RowsTold& told = {});
     Pages(std::string title, std::string author, QSizeF size, std::vector<Marks> pages);
 
     [[nodiscard]] int count() const { return static_cast<int>(pages_.size()); }

@@ -6,6 +6,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 namespace levora::paper {
@@ -43,8 +44,9 @@ Piece make_block(Fonts& fonts, const document::Report& report, const document::B
 // The next stricter limit; false when there is none.
 bool tighten(GrowthLimit& limit);
 
-// The rows of a subreport as pieces, each at most `room` high together with the head.
+// The rows of a subreport as pieces, each at most `room` high together with the head. `next_row` hears of
+// every row before it is measured.
 SectionPieces make_table(Fonts& fonts, const document::Report& report, const document::Table& table,
-                         double width, double room);
+                         double width, double room, const std::function<void()>& next_row = {});
 
 } // namespace levora::paper

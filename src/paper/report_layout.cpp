@@ -19,8 +19,8 @@ constexpr double outer_frame = 0.5;
 
 class ReportPages {
 public:
-    ReportPages(Fonts& fonts, const document::Report& report)
-        : fonts_(fonts), report_(report), layout_(report.layout()), left_(layout_.body.left),
+    ReportPages(Fonts& fonts, const document::Report& report, const Pages::RowsTold& told)
+        : fonts_(fonts), report_(report), told_(told), layout_(report.layout()), left_(layout_.body.left),
           top_(layout_.body.top), bottom_(layout_.body.bottom) {
         if (layout_.margins_move) {
             left_ += report.left_margin_twips / twips_per_millimetre;
@@ -44,6 +44,13 @@ public:
 private:
     [[nodiscard]] double room() const { return bottom_ - top_; }
 
+    [[nodiscard]] int rows_in_all() const {
+        std::size_t rows = 0;
+        for (const Section& section : layout_.sections)
+            if (section.table) rows += report_.rows(section.table->subreport).rows.size();
+        return static_cast<int>(rows);
+    }
+
     Piece block_piece(const Block& block, GrowthLimit limit, double most) {
         Piece piece = make_block(fonts_, report_, block, limit);
         // What grows higher than a page is set smaller instead.
@@ -53,7 +60,10 @@ private:
     }
 
     SectionPieces pieces_of(const Section& section, const GrowthLimit& limit) {
-        if (section.table) return make_table(fonts_, report_, *section.table, layout_.body.width(), room());
+        if (section.table)
+            return make_table(fonts_, report_, *section.table, layout_.body.width(), room(), [this] {
+                if (told_) told_(rows_done_++, rows_in_all());
+            });
         SectionPieces made;
         if (section.head) made.head = block_piece(*section.head, limit, room());
         for (const Block& block : section.blocks)
@@ -156,6 +166,8 @@ private:
 
     Fonts& fonts_;
     const document::Report& report_;
+    const Pages::RowsTold& told_;
+    int rows_done_ = 0;
     const Layout& layout_;
     double left_;
     double top_;
@@ -167,8 +179,8 @@ private:
 
 } // namespace
 
-std::vector<Marks> lay_out(Fonts& fonts, const document::Report& report) {
-    return ReportPages(fonts, report).make();
+std::vector<Marks> lay_out(Fonts& fonts, const document::Report& report, const Pages::RowsTold& told) {
+    return ReportPages(fonts, report, told).make();
 }
 
 } // namespace levora::paper

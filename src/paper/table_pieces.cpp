@@ -26,12 +26,14 @@ public:
     TableMaker(Fonts& fonts, const document::Report& report, const Table& table, double width, double room)
         : fonts_(fonts), rows_(report.rows(table.subreport)), table_(table), width_(width), room_(room) {}
 
-    SectionPieces make() {
+    SectionPieces make(const std::function<void()>& next_row) {
         SectionPieces section;
         section.head = make_head();
         const double room = room_ - section.head.height - row_height; // with the closing row
-        for (std::size_t row = 0; row < rows_.rows.size(); ++row)
+        for (std::size_t row = 0; row < rows_.rows.size(); ++row) {
+            if (next_row) next_row();
             add_row(row, room, section.pieces);
+        }
         if (rows_.rows.empty()) section.pieces.push_back(ruled_row(row_height));
         if (!table_.total_field.empty()) {
             section.pieces.back().keep_with_next = true;
@@ -223,8 +225,8 @@ private:
 } // namespace
 
 SectionPieces make_table(Fonts& fonts, const document::Report& report, const Table& table, double width,
-                         double room) {
-    return TableMaker(fonts, report, table, width, room).make();
+                         double room, const std::function<void()>& next_row) {
+    return TableMaker(fonts, report, table, width, room).make(next_row);
 }
 
 } // namespace levora::paper

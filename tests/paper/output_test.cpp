@@ -59,6 +59,21 @@ TEST_F(PaperTest, AFileThatCantBeWrittenIsToldByItsName) {
         }
 }
 
+TEST_F(PaperTest, WhatIsGivenUpLeavesTheFileAsItWas) {
+    const std::string path = folder + "/kept.pdf";
+    const Pages pages(shipped("FormBB"));
+    save_pdf(pages, path);
+    const std::string before = output_of("md5sum " + path + "; ls " + folder);
+    const auto first_page = [](int done, int) { return done < 1; };
+    save_pdf(pages, path, first_page);
+    QPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(QString::fromStdString(path));
+    print(pages, printer, 1, first_page);
+    EXPECT_EQ(output_of("md5sum " + path + "; ls " + folder), before);
+    EXPECT_EQ(printer.outputFileName().toStdString(), path);
+}
+
 // Where both are rendered, a picture of the preview is a picture of the PDF but for the smoothing of
 // edges, which two renderers do each in its own way.
 TEST_F(PaperTest, APictureOfThePreviewIsAPictureOfThePdf) {
