@@ -32,7 +32,10 @@ void write_whole_file(const std::string& path, std::string_view bytes) {
     const std::string place = not_there ? path : target.string();
     if (!not_there && std::filesystem::is_directory(target)) session::throw_file_fault(path, EISDIR);
     if (!not_there && ::access(place.c_str(), W_OK) != 0) session::throw_file_fault(path, errno);
-    session::replace_whole_file(place, bytes, session::shared_file_mode);
+    if (!not_there && !std::filesystem::is_regular_file(target))
+        session::write_in_place(place, bytes);
+    else
+        session::replace_whole_file(place, bytes, session::shared_file_mode);
 }
 
 void eReturn::write_line(std::string_view line) {
@@ -88,14 +91,15 @@ std::string eReturn::PopTag() {
     return session_.XmlTagStack[static_cast<std::size_t>(session_.XmlTagTop--)];
 }
 
-void eReturn::save(const std::string& path) const {
-    try {
-        write_whole_file(path, to_windows_1252(text_));
-    } catch (...) { // a file that could not be had has taken no tag
-        session_.XmlIndent = indent_before_;
-        session_.XmlTagTop = top_before_;
-        throw;
-    }
+eReturn::~eReturn() {
+    if (saved_) return;
+    session_.XmlIndent = indent_before_;
+    session_.XmlTagTop = top_before_;
+}
+
+void eReturn::save(const std::string& path) {
+    write_whole_file(path, to_windows_1252(text_));
+    saved_ = true;
 }
 
 } // namespace levora::form_ba

@@ -20,6 +20,10 @@ class eReturn {
 public:
     explicit eReturn(session::Session& session)
         : session_(session), indent_before_(session.XmlIndent), top_before_(session.XmlTagTop) {}
+    // A document that reached no file, whole or broken off, has taken no tag: the next starts where it did.
+    ~eReturn();
+    eReturn(const eReturn&) = delete;
+    eReturn& operator=(const eReturn&) = delete;
 
     // Writes the start tag, moves the indentation on by 2 and pushes the tag.
     void OpenTag(std::string_view tag);
@@ -35,8 +39,8 @@ public:
     [[nodiscard]] const std::string& text() const { return text_; }
     // Puts the document into a file in Windows-1252; "?" stands for what that lacks. The file is
     // written beside its place and renamed into it, so a failure (52, 61, 70, 75, 76) leaves an old
-    // file as it was; the next document then starts where this one did.
-    void save(const std::string& path) const;
+    // file as it was.
+    void save(const std::string& path);
 
 private:
     void PushTag(std::string_view tag);
@@ -46,10 +50,12 @@ private:
     session::Session& session_;
     std::int16_t indent_before_;
     std::int32_t top_before_;
+    bool saved_ = false;
     std::string text_;
 };
 
-// Puts bytes into a file, whole or not at all; readable by owner and group only.
+// Puts bytes into a file, whole or not at all; readable by owner and group only. A device or a pipe is
+// written as it stands: no file takes its place.
 void write_whole_file(const std::string& path, std::string_view bytes);
 
 } // namespace levora::form_ba

@@ -244,12 +244,16 @@ void frmFormBA::fill_movable_property() {
     sprMovableProperty_Change();
 }
 
-void frmFormBA::fill_other_persons() {
-    using namespace other_person_column;
+// A thirteenth person has taken the total row's name, which is no data; an inserted row has moved it.
+void frmFormBA::clear_other_persons() {
     sprInducibleNetWealth.clear_data();
-    sprInducibleNetWealth.set_label(other_person_column::name, total_row, "Total");
-    for (const int column : {relationship, pan})
-        sprInducibleNetWealth.set_text(column, total_row, "");
+    for (int row = total_row; row <= sprInducibleNetWealth.rows(); ++row)
+        if (sprInducibleNetWealth.cell_locked(other_person_column::name, row))
+            sprInducibleNetWealth.set_label(other_person_column::name, row, "Total");
+}
+
+void frmFormBA::fill_other_persons() {
+    clear_other_persons();
     session_.SqlText = "Select * From DeemedAssetDetails Where AssesseeNo = " + session_.assessee_text() +
                        " And FY = '" + session_.CurrentFY + "'";
     RowSet record = session_.TaxDb.open_rows(session_.SqlText);

@@ -28,8 +28,9 @@ void frmFormBA::ClearFormBA() {
             if (auto* const field = dynamic_cast<widgets::TextField*>(each)) field->set_text("");
     for (widgets::Grid* grid :
          {&sprScheduleBTP, &sprImmovableProperty, &sprMovableProperty, &sprJewellery, &sprPreciousStone,
-          &sprInducibleNetWealth, &sprAssetInterest, &sprAssetsClaimedExempt, &sprScheduleOPR})
+          &sprAssetInterest, &sprAssetsClaimedExempt, &sprScheduleOPR})
         grid->clear_data();
+    clear_other_persons();
 }
 
 void frmFormBA::LoadXmlFile(const std::string& path) {

@@ -7,6 +7,7 @@
 #include <array>
 #include <filesystem>
 #include <string_view>
+#include <system_error>
 
 namespace levora::form_ba {
 
@@ -124,7 +125,8 @@ void frmFormBA::design_grids() {
 void frmFormBA::Form_Load() {
     mskAY.set_text(session_.CurrentFY);
     ReturnFilePath = working_copy_path(session_);
-    if (std::filesystem::exists(ReturnFilePath)) {
+    std::error_code not_there;
+    if (std::filesystem::is_regular_file(ReturnFilePath, not_there)) {
         LoadXmlFile(ReturnFilePath);
         lblFillFrom.set_caption("Filled from Saved Data");
         lblFillFrom.set_forecolor(red_rgb);

@@ -225,6 +225,7 @@ private:
     void fill_prepaid_taxes();
     void fill_immovable_property();
     void fill_movable_property();
+    void clear_other_persons();
     void fill_other_persons();
     void fill_firms();
     void fill_jewellery();

@@ -134,6 +134,10 @@ void replace_whole_file(const std::string& path, std::string_view content, mode_
     file.take_place();
 }
 
+void write_in_place(const std::string& path, std::string_view content) {
+    OpenFile(path, path, O_WRONLY).write(content);
+}
+
 void write_new_file(const std::string& path, std::string_view content, mode_t mode) {
     const FileBeside file(path, mode);
     file.write(content);

@@ -12,7 +12,9 @@ std::string read_whole_file(const std::string& path);
 // The whole content stands beside the old file, on the disk, before it takes its place: a kill or a
 // power cut leaves the old file or the new one. Throws what the machine says.
 void replace_whole_file(const std::string& path, std::string_view content, mode_t mode);
-// The same, but never over a file that is there (75).
+// Into a device or a pipe, which stays what it is.
+void write_in_place(const std::string& path, std::string_view content);
+// The whole content as a new file, but never over a file that is there (75).
 void write_new_file(const std::string& path, std::string_view content, mode_t mode);
 
 // The folder's own entry of a file reaches the disk.

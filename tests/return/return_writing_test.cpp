@@ -179,6 +179,21 @@ TEST_F(ReturnWritingTest, AFailedWriteIsReportedAndLeavesTheOldFile) {
     EXPECT_EQ(desk_.take_messages().size(), 1U);
     EXPECT_NE(file_bytes(folder_.path() + "/program/ErrorLog.txt").find("frmFormBA - btnGenerate_Click"),
               std::string::npos);
+
+    // A device stays what it is, and a full one is told.
+    desk_.queue_file("/dev/full");
+    form().btnGenerate.click();
+    EXPECT_EQ(message(), "Levora Wealth Tax - Error: Disk is full. Continue?\n");
+    EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
+
+    // Three rows without a head close more than is open; without them the next document starts afresh.
+    for (int row = 1; row <= 3; ++row)
+        form().sprScheduleOPR.type(opr_column::description, row, "Farm");
+    desk_.queue_file(folder_.path() + "/out.xml");
+    form().btnGenerate.click();
+    EXPECT_EQ(message(), "Levora Wealth Tax - Error: 5 Invalid procedure call or argument\n");
+    form().sprScheduleOPR.clear_data();
+    EXPECT_NE(generated().find("\n<FORMP2:Form "), std::string::npos);
 }
 
 } // namespace
