@@ -35,6 +35,7 @@ PartsFile::PartsFile(std::string path, Kind kind) : PartsFile() { // so that a f
     path_ = std::move(path);
     struct stat found {};
     if (::lstat(path_.c_str(), &found) == 0) throw_file_fault(path_, EEXIST);
+    beside_journal_ = path_ + ".part-journal";
     beside_ = path_ + ".part";
     const int descriptor = ::open(beside_.c_str(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, shared_file_mode);
     if (descriptor < 0) throw_file_fault(beside_, errno);
@@ -67,7 +68,9 @@ PartsFile PartsFile::open(const std::string& path, Kind kind) {
 
 PartsFile::~PartsFile() {
     store_.reset();
-    if (!beside_.empty()) ::unlink(beside_.c_str());
+    if (beside_.empty()) return;
+    ::unlink(beside_.c_str());
+    ::unlink(beside_journal_.c_str()); // a failing disk may have left it
 }
 
 void PartsFile::put(const std::string& name, const std::string& content) {

@@ -32,6 +32,7 @@ private:
 
     std::string path_;
     std::string beside_; // empty when opened for reading
+    std::string beside_journal_;
     std::unique_ptr<OpenStore> store_;
 };
 

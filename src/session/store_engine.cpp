@@ -30,6 +30,8 @@ void check_file(const std::string& file) {
     if (::access(file.c_str(), R_OK) != 0) throw_file_fault(file, errno);
 }
 
+constexpr std::string_view nothing_stored = " (nothing of this save is stored)";
+
 // A fault of disk or memory, no matter what the statement says: no part of a save may go down then.
 bool is_of_machine(int code) {
     switch (code & 0xFF) {
@@ -145,7 +147,7 @@ void OpenStore::fail(int code) {
         failure = Failure(error_number::disk_full, file_ + ": the disk is full");
     if (begun_ && (is_of_machine(code) || !in_transaction())) {
         take_back();
-        throw Failure(failure.number, std::string(failure.what()) + " (nothing of this save is stored)");
+        throw Failure(failure.number, failure.what() + std::string(nothing_stored));
     }
     throw failure;
 }
@@ -254,10 +256,12 @@ void OpenStore::start_transaction() {
     try {
         enter_gate();
         run("BEGIN IMMEDIATE");
-    } catch (...) {
+    } catch (const std::exception& error) {
         gate_.leave();
         lost_ = true; // what the event writes later would stand there without this
-        throw;
+        const auto* failure = dynamic_cast<const Failure*>(&error);
+        if (!failure || std::string_view(failure->what()).ends_with(nothing_stored)) throw;
+        throw Failure(failure->number, failure->what() + std::string(nothing_stored));
     }
     begun_ = true;
 }
@@ -270,8 +274,8 @@ void OpenStore::write_again(const Written& each) {
     }
     if (each.row_number == 0 || each.row_number == sqlite3_last_insert_rowid(database_.get())) return;
     rollback();
-    throw Failure(SQLITE_ABORT, file_ + ": another program has changed these rows meanwhile "
-                                        "(nothing of this save is stored)");
+    throw Failure(SQLITE_ABORT,
+                  file_ + ": another program has changed these rows meanwhile" + std::string(nothing_stored));
 }
 
 void OpenStore::remember(Written&& written) noexcept {

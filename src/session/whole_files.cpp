@@ -51,16 +51,17 @@ private:
 // kill leaves is written over the next time; its lock lets several programs write in turn.
 class FileBeside {
 public:
-    FileBeside(const std::string& path, mode_t mode) : path_(path), beside_(path + ".writing") {
+    FileBeside(const std::string& path, mode_t mode) : FileBeside(path) { // so that a failure takes it away
         for (;;) {
             file_.emplace(path_, beside_, O_RDWR | O_CREAT | O_NOFOLLOW, mode);
             file_->check(::flock(file_->descriptor(), LOCK_EX) == 0);
             if (is_mine_and_named()) break;
         }
+        held_ = true;
         file_->check(::ftruncate(file_->descriptor(), 0) == 0 && ::fchmod(file_->descriptor(), mode) == 0);
     }
     ~FileBeside() {
-        if (!placed_) ::unlink(beside_.c_str());
+        if (held_) ::unlink(beside_.c_str());
     }
     FileBeside(const FileBeside&) = delete;
     FileBeside& operator=(const FileBeside&) = delete;
@@ -71,7 +72,7 @@ public:
     }
     void take_place() {
         file_->check(::rename(beside_.c_str(), path_.c_str()) == 0);
-        placed_ = true;
+        held_ = false;
         sync_folder_of(path_);
     }
     // A link is made only where no file stands, unlike a new name.
@@ -86,6 +87,8 @@ public:
     }
 
 private:
+    explicit FileBeside(const std::string& path) : path_(path), beside_(path + ".writing") {}
+
     // Another program may have put it in place meanwhile, and what a colleague's program left when it was
     // killed can't be given this file's mode: it makes way.
     [[nodiscard]] bool is_mine_and_named() const {
@@ -101,7 +104,7 @@ private:
     std::string path_;
     std::string beside_;
     std::optional<OpenFile> file_;
-    bool placed_ = false;
+    bool held_ = false;
 };
 
 } // namespace

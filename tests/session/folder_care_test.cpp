@@ -1,5 +1,6 @@
 #include "session/client_file.h"
 #include "session/data_folder.h"
+#include "session/faulty_disk.h"
 #include "session/store_backup.h"
 #include "session/store_check.h"
 #include "session/whole_files.h"
@@ -7,17 +8,19 @@
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <fstream>
+#include <functional>
+#include <regex>
+#include <set>
 
 #include <sqlite3.h>
-#include <sys/resource.h>
 
 namespace levora::session {
 namespace {
 
 using testing::DataFolder;
 using testing::failure_of;
+using testing::FaultyDisk;
 
 class FolderCareTest : public ::testing::Test {
 protected:
@@ -121,24 +124,77 @@ TEST_F(FolderCareTest, ADamagedBackupRestoresNothing) {
     EXPECT_FALSE(std::filesystem::exists(restored + "/LVWTax.db"));
 }
 
-TEST_F(FolderCareTest, ARestoreOntoAFullDiskTakesBackWhatItWrote) {
+TEST_F(FolderCareTest, AFaultAnywhereInItLeavesTheWholeOrNothing) {
     back_up_folder(folder.path(), file);
-    const auto largest = std::filesystem::file_size(folder.file(Store::tax)); // the last one written
-    const std::string restored = elsewhere.path() + "/new";
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit tight{largest - 1, before.rlim_max};
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    setrlimit(RLIMIT_FSIZE, &tight);
-    const std::string failure = failure_of([&] { restore_folder(file, restored); });
-    setrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, handler);
-    EXPECT_NE(failure.find("LVWTax.db: "), std::string::npos) << failure;
-    EXPECT_FALSE(std::filesystem::exists(restored + "/Assessee.db"));
-    EXPECT_FALSE(std::filesystem::exists(restored + "/LVWTax.db"));
-    EXPECT_FALSE(std::filesystem::exists(restored + "/ITR/WT 17 2014-2015R"));
-    restore_folder(file, restored);
-    EXPECT_EQ(find_faults(restored).size(), 0U);
+    export_client(folder.path(), 17, file + "17");
+    const std::string to = elsewhere.path() + "/new";
+    struct Case {
+        const char* why;
+        std::function<void()> act;
+        bool into_a_folder = false; // that has its stores
+    };
+    const Case cases[] = {
+        {"create", [&] { create_data_folder(to); }},
+        {"back up", [&] { back_up_folder(folder.path(), to); }},
+        {"restore", [&] { restore_folder(file, to); }},
+        {"export", [&] { export_client(folder.path(), 17, to); }},
+        {"import", [&] { import_client(file + "17", to); }, true},
+    };
+    const auto start_anew = [&](const Case& each) {
+        std::filesystem::remove_all(to);
+        if (each.into_a_folder) create_data_folder(to);
+    };
+    const std::regex aside(R"(\.gate$|\.db-)"); // what the engine itself clears away
+    // Stores with what is in them, and the other files.
+    const auto state = [&] {
+        std::set<std::string> names;
+        for (const auto& each : std::filesystem::recursive_directory_iterator(elsewhere.path()))
+            if (each.is_regular_file() && !std::regex_search(each.path().string(), aside))
+                names.insert(each.path());
+        std::string text;
+        for (const std::string& each : names)
+            text += each + "\n";
+        for (const Store each : all_stores) {
+            if (!names.contains(store_path(to, each))) continue;
+            const char* table = each == Store::forms ? "Challan"
+                                : each == Store::tax ? "Enclosure"
+                                                     : "sqlite_schema";
+            const auto found = run_statement(to, each, "SELECT count(*) FROM " + std::string(table));
+            text += std::string(table) + " " + found.rows[0][0].text() + "\n";
+        }
+        return text;
+    };
+    enum class Kind { once, full_disk, memory };
+    for (const Case& each : cases) {
+        start_anew(each);
+        const std::string nothing = state();
+        each.act();
+        const std::string whole = state();
+        EXPECT_NE(whole, nothing);
+        for (const Kind kind : {Kind::once, Kind::full_disk, Kind::memory}) {
+            bool reached_the_end = false;
+            for (int n = 1; !reached_the_end; n += kind == Kind::memory ? 1 + n / 8 : 1 + n / 40) {
+                SCOPED_TRACE(each.why + std::string(", fault ") + std::to_string(n));
+                start_anew(each);
+                if (kind == Kind::memory)
+                    FaultyDisk::fail_allocation_at(n, FaultyDisk::Lasting::once);
+                else if (kind == Kind::once)
+                    FaultyDisk::fail_at(n, FaultyDisk::Fault::disk_error, FaultyDisk::Lasting::once);
+                else
+                    FaultyDisk::fail_at(n, FaultyDisk::Fault::disk_full, FaultyDisk::Lasting::from_then_on);
+                bool told = true;
+                try {
+                    each.act();
+                    told = false;
+                } catch (const std::exception&) { // which the tool tells
+                }
+                reached_the_end = !FaultyDisk::has_failed();
+                FaultyDisk::mend();
+                const std::string now = state();
+                EXPECT_TRUE(now == whole || (told && now == nothing)) << now;
+            }
+        }
+    }
 }
 
 TEST_F(FolderCareTest, OneClientMovesToAnotherFolderWithNumbersOfItsOwnThere) {
