@@ -8,6 +8,9 @@
 #include "desktop/spin_pair.h"
 
 #include <QFile>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QTabWidget>
 
 namespace levora::desktop {
 
@@ -18,7 +21,22 @@ QWidget* FormLoader::load_screen(const std::string& screen, QWidget* parent) {
     return load(&file, parent);
 }
 
-QWidget* FormLoader::createWidget(const QString& class_name, QWidget* parent, const QString& name) {
+namespace {
+
+// The widget that a page of tabs, or what a scroll area shows, comes to stand in. One that moves there
+// only when it is whole has all its widgets styled anew.
+QWidget* final_parent(QWidget* parent) {
+    if (auto* area = qobject_cast<QScrollArea*>(parent)) return area->viewport();
+    if (auto* tabs = qobject_cast<QTabWidget*>(parent))
+        if (auto* pages = tabs->findChild<QStackedWidget*>(QString(), Qt::FindDirectChildrenOnly))
+            return pages;
+    return parent;
+}
+
+} // namespace
+
+QWidget* FormLoader::createWidget(const QString& class_name, QWidget* told_parent, const QString& name) {
+    QWidget* parent = final_parent(told_parent);
     QWidget* own = nullptr;
     if (class_name == QLatin1String("GridView"))
         own = new GridView(parent);

@@ -14,7 +14,7 @@ public:
     // The root widget of ":/forms/<screen>.ui"; null when the screen has no layout.
     QWidget* load_screen(const std::string& screen, QWidget* parent);
 
-    QWidget* createWidget(const QString& class_name, QWidget* parent, const QString& name) override;
+    QWidget* createWidget(const QString& class_name, QWidget* told_parent, const QString& name) override;
 };
 
 } // namespace levora::desktop

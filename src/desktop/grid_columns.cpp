@@ -97,7 +97,8 @@ void GridView::size_row_header() {
         if (header.size() > 4) widest = std::max(widest, fontMetrics().horizontalAdvance(to_qt(header)));
     }
     if (corner_) widest = std::max(widest, fontMetrics().horizontalAdvance(corner_->text()) + 8);
-    if (row_header_->width() != widest + cell_padding) row_header_->setFixedWidth(widest + cell_padding);
+    if (row_header_->minimumWidth() != widest + cell_padding)
+        row_header_->setFixedWidth(widest + cell_padding);
 }
 
 // Words that nobody can write in, from the first row on.

@@ -17,6 +17,9 @@ public:
     [[nodiscard]] int frozen() const { return frozen_; }
     // Their width together; 0 while nothing is scrolled, as they stand in their own places then.
     [[nodiscard]] int covered() const;
+    // The view sets the breadth. Without this, each laying out of the view would measure the words of up
+    // to two hundred sections, only to be overruled.
+    [[nodiscard]] QSize sizeHint() const override { return minimumSize(); }
 
 signals:
     void sized_by_hand(int section);

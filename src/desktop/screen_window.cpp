@@ -30,7 +30,18 @@ using widgets::Control;
 using widgets::ControlKind;
 using widgets::Form;
 
-ScreenWindow::ScreenWindow(Form& form, QWidget* parent) : QMainWindow(parent), form_(&form) {
+namespace {
+
+// Where another screen's window stands in this one; null when it has no room for one.
+QWidget* place_inside(const ScreenWindow* around) {
+    return around ? around->centralWidget()->findChild<QWidget*>(QStringLiteral("inside")) : nullptr;
+}
+
+} // namespace
+
+ScreenWindow::ScreenWindow(Form& form, ScreenWindow* around)
+    : QMainWindow(place_inside(around)), form_(&form), inside_(parentWidget() != nullptr) {
+    if (inside_) setWindowFlags(Qt::Widget);
     setObjectName(to_qt(form.name() + "_window"));
     setWindowTitle(to_qt(form.caption()));
     FormLoader loader;
@@ -47,7 +58,12 @@ ScreenWindow::ScreenWindow(Form& form, QWidget* parent) : QMainWindow(parent), f
     tie_controls();
     tie_commands();
     resize(told);
-    restore_place();
+    if (inside_) {
+        parentWidget()->layout()->addWidget(this);
+        around->statusBar()->hide(); // the one inside tells
+    } else {
+        restore_place();
+    }
     form.view = this;
 }
 
@@ -289,15 +305,6 @@ void ScreenWindow::give_up_step() {
     LongWork work(this, tr("Taking back"), history_.edits_to_undo());
     work.settle();
     act([this, &work] { history_.take_back(*form_, [&work](int done) { work.go_on(done); }); });
-}
-
-void ScreenWindow::take_inside(ScreenWindow& other) {
-    auto* place = centralWidget()->findChild<QWidget*>(QStringLiteral("inside"));
-    if (!place || !place->layout()) return;
-    other.setWindowFlags(Qt::Widget);
-    place->layout()->addWidget(&other);
-    statusBar()->hide(); // the one inside tells
-    other.inside_ = true;
 }
 
 void ScreenWindow::undo() {

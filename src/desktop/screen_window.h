@@ -22,7 +22,9 @@ class ScreenWindow final : public QMainWindow, public widgets::View, public Acts
 
 public:
     // Makes the window from the screen's layout file and ties every widget to its control.
-    explicit ScreenWindow(widgets::Form& form, QWidget* parent = nullptr);
+    // Inside another screen's window when told: as its child from the start, since a window that is put
+    // there when it is whole has all its widgets styled anew.
+    explicit ScreenWindow(widgets::Form& form, ScreenWindow* around = nullptr);
     ~ScreenWindow() override;
 
     // The screen goes away: nothing of it is touched from here on, the window closes.
@@ -35,9 +37,6 @@ public:
 
     // Comes up as the screen says: shown or hidden, modal or not.
     void follow_visibility();
-
-    // Another screen's window becomes the content of this one.
-    void take_inside(ScreenWindow& other);
 
     void undo();
     void redo();
@@ -108,7 +107,7 @@ private:
     QStringList faults_;
     QLabel* foot_ = nullptr;
     bool select_on_release_ = false;
-    bool inside_ = false; // drawn within another screen's window
+    bool inside_ = false; // another screen's window
 };
 
 } // namespace levora::desktop

@@ -34,7 +34,8 @@ ScreenWindow* Windows::find(const std::string& screen) const {
 }
 
 void Windows::loaded(widgets::Form& form) {
-    auto* window = new ScreenWindow(form);
+    // The return stands inside its parent window.
+    auto* window = new ScreenWindow(form, form.name() == "frmFormBA" ? find("frmITMDIParent") : nullptr);
     windows_[form.name()] = window;
     connect(window, &ScreenWindow::close_asked, this, [this, window] {
         if (!window->attached()) return;
@@ -43,9 +44,6 @@ void Windows::loaded(widgets::Form& form) {
         check_end();
     });
     connect(window, &ScreenWindow::settled, this, &Windows::check_end);
-    // The return stands inside its parent window.
-    if (form.name() == "frmFormBA")
-        if (ScreenWindow* parent = find("frmITMDIParent")) parent->take_inside(*window);
     emit made(window);
 }
 

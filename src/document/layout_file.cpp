@@ -12,9 +12,11 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <memory>
 #include <set>
 #include <sstream>
+#include <utility>
 
 namespace levora::document {
 
@@ -198,7 +200,19 @@ Layout load_layout(const std::string& path) {
     std::ostringstream text;
     if (!file || !(text << file.rdbuf()))
         throw Failure(error_number::path_access, "Can't read " + path + ": " + std::strerror(errno));
-    return parse_layout(text.str(), path);
+    // A batch takes the same few layouts for every client; one that was edited meanwhile differs in text.
+    struct Parsed {
+        std::string text;
+        Layout layout;
+    };
+    static std::map<std::string, Parsed> known;
+    Parsed& held = known[path];
+    if (std::string now = text.str(); held.text.empty() || held.text != now) {
+        held.text.clear();
+        held.layout = parse_layout(now, path);
+        held.text = std::move(now);
+    }
+    return held.layout;
 }
 
 } // namespace levora::document

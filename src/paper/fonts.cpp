@@ -80,15 +80,35 @@ Fonts::Fonts() {
 }
 
 double Fonts::width(const FontKey& key, const QString& text) {
-    return metrics(key).horizontalAdvance(text) / units_per_millimetre;
+    Measures& known = measures(key);
+    const auto found = known.widths.constFind(text);
+    if (found != known.widths.constEnd()) return *found;
+    constexpr qsizetype most_known = 2000; // labels of the forms, and of figures the last ones
+    if (known.widths.size() >= most_known) known.widths.clear();
+    return *known.widths.insert(text, metrics(key).horizontalAdvance(text) / units_per_millimetre);
 }
 
 double Fonts::ascent(const FontKey& key) {
-    return metrics(key).ascent() / units_per_millimetre;
+    return measures(key).ascent;
 }
 
 double Fonts::line_height(const FontKey& key) {
-    return metrics(key).height() / units_per_millimetre;
+    return measures(key).line_height;
+}
+
+// Shaping a text costs far more than finding it, and a form has the same labels for every client. So
+// numbers are kept for as long as the program runs; fonts can't be, as they end with the application.
+Fonts::Measures& Fonts::measures(const FontKey& key) {
+    static std::map<FontKey, Measures> all;
+    auto found = all.find(key);
+    if (found == all.end()) {
+        const QFontMetricsF& font = metrics(key);
+        found = all.emplace(key, Measures{.ascent = font.ascent() / units_per_millimetre,
+                                          .line_height = font.height() / units_per_millimetre,
+                                          .widths = {}})
+                    .first;
+    }
+    return found->second;
 }
 
 const QFontMetricsF& Fonts::metrics(const FontKey& key) {

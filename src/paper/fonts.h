@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QFontMetricsF>
+#include <QHash>
 #include <QString>
 
 #include <compare>
@@ -27,7 +28,7 @@ struct FontKey {
 // A Qt application to paint with; made without a display when the program has none of its own.
 void ensure_application();
 
-// The fonts of a layout with their measures in millimetres, kept as long as it lasts.
+// The fonts of a layout with their measures in millimetres.
 class Fonts {
 public:
     // A Failure 321 that names the family that is not installed.
@@ -38,6 +39,12 @@ public:
     [[nodiscard]] double line_height(const FontKey& key);
 
 private:
+    struct Measures {
+        double ascent;
+        double line_height;
+        QHash<QString, double> widths; // by text
+    };
+    Measures& measures(const FontKey& key);
     const QFontMetricsF& metrics(const FontKey& key);
 
     std::map<FontKey, QFontMetricsF> metrics_;
