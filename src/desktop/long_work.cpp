@@ -1,7 +1,6 @@
 #include "desktop/long_work.h"
 
 #include <QApplication>
-#include <QProgressDialog>
 
 #include <utility>
 
@@ -16,17 +15,18 @@ LongWork::LongWork(QWidget* over, QString what, int of) : over_(over), what_(std
     since_.start();
 }
 
-LongWork::~LongWork() = default;
+LongWork::~LongWork() {
+    delete box_.data();
+}
 
 bool LongWork::go_on(int done) {
     const qint64 now = since_.elapsed();
-    if (now < patience_milliseconds || now - shown_at_ < between_looks_milliseconds)
-        return !box_ || settled_ || !box_->wasCanceled();
-    if (!box_) {
-        box_ = std::make_unique<QProgressDialog>(what_, settled_ ? QString() : QObject::tr("Cancel"), 0, of_,
-                                                 over_ ? over_->window() : nullptr);
+    if (now < patience_milliseconds || now - shown_at_ < between_looks_milliseconds) return wanted();
+    if (!shown_) {
+        shown_ = true;
+        box_ = new QProgressDialog(what_, settled_ ? QString() : QObject::tr("Cancel"), 0, of_,
+                                   over_ ? over_->window() : nullptr);
         box_->setWindowTitle(QStringLiteral("Levora Wealth Tax"));
-        box_->setObjectName(QStringLiteral("long_work"));
         box_->setWindowModality(Qt::ApplicationModal);
         box_->setMinimumDuration(0);
         box_->setAutoReset(false);
@@ -34,10 +34,10 @@ bool LongWork::go_on(int done) {
         box_->show();
     }
     shown_at_ = now;
-    box_->setValue(done);
+    if (box_) box_->setValue(done);
     // Nothing but the box takes part: it stands over all windows of the program.
     QApplication::processEvents();
-    return settled_ || !box_->wasCanceled();
+    return wanted();
 }
 
 void LongWork::settle() {

@@ -1,11 +1,10 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QPointer>
+#include <QProgressDialog>
 #include <QString>
 
-#include <memory>
-
-class QProgressDialog;
 class QWidget;
 
 namespace levora::desktop {
@@ -19,18 +18,21 @@ public:
     LongWork(const LongWork&) = delete;
     LongWork& operator=(const LongWork&) = delete;
 
-    // So many of all pieces are done; false when the person has cancelled.
+    // So many of all pieces are done; false when the person has cancelled, or the window has gone.
     bool go_on(int done);
     // From here on it can't be cancelled any more.
     void settle();
 
 private:
-    QWidget* over_;
+    [[nodiscard]] bool wanted() const { return settled_ || !shown_ || (box_ && !box_->wasCanceled()); }
+
+    QPointer<QWidget> over_;
     QString what_;
     int of_;
     QElapsedTimer since_;
     qint64 shown_at_ = 0;
-    std::unique_ptr<QProgressDialog> box_;
+    QPointer<QProgressDialog> box_; // goes with its window
+    bool shown_ = false;
     bool settled_ = false;
 };
 

@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QPointer>
 #include <QPrinter>
 
 #include <algorithm>
@@ -95,11 +96,13 @@ void add_report_pages(ScreenWindow& window, DesktopDesk* desk) {
     if (!view) return;
     QObject::connect(&window, &ScreenWindow::came_up, view, [&window, view, desk] {
         if (!window.attached()) return;
-        const auto& report = static_cast<const reports::frmRepPreview*>(window.form())->report();
+        const auto report = static_cast<const reports::frmRepPreview*>(window.form())->report();
+        const QPointer<QWidget> there(&window);
         try {
             if (report) show_in(*view, pages_of(*report, &window), desk);
         } catch (const Cancelled&) {
-            QMetaObject::invokeMethod(&window, &QWidget::close, Qt::QueuedConnection); // nothing to show
+            // Nothing to show. The window may have gone by itself meanwhile.
+            if (there) QMetaObject::invokeMethod(there, &QWidget::close, Qt::QueuedConnection);
         } catch (const Failure& failure) {
             if (desk) tell_failure(*desk, failure); // a font is missing: the window stays, empty
         }

@@ -217,7 +217,7 @@ void ScreenWindow::form_changed(const Form& form) {
         setCursor(Qt::WaitCursor);
     else
         unsetCursor();
-    if (form.visible() != isVisible()) follow_visibility();
+    if (!form.visible() && isVisible()) hide(); // that it comes up is told on its own
 }
 
 void ScreenWindow::follow_visibility() {
