@@ -1,6 +1,8 @@
 #include "complete_return.h"
 #include "return_fixture.h"
 
+#include "return/xml_document.h"
+
 #include <filesystem>
 
 namespace levora::form_ba::testing {
@@ -120,9 +122,13 @@ TEST_F(ReturnReadingTest, BrokenOrHostileFilesGetTheOneMessage) {
                   "411001Companies9");
     }
     std::filesystem::create_directory(folder_.path() + "/folder.xml");
-    desk_.queue_file(folder_.path() + "/folder.xml");
-    form().btnImport.click();
-    EXPECT_EQ(message(), import_message);
+    std::ofstream(folder_.path() + "/huge.xml") << "<a/>";
+    std::filesystem::resize_file(folder_.path() + "/huge.xml", largest_document + 1);
+    for (const char* each : {"/folder.xml", "/huge.xml", "/none.xml"}) {
+        desk_.queue_file(folder_.path() + each);
+        form().btnImport.click();
+        EXPECT_EQ(message(), import_message) << each;
+    }
 
     // A broken working copy leaves the screen empty, whatever the master knows.
     restart();

@@ -168,6 +168,14 @@ TEST_F(ReturnWritingTest, TextIsWindows1252WithQuestionMarksForTheRest) {
               "<FormCommon:TownCityDistrict>\xE9 \x80 ?</FormCommon:TownCityDistrict>\n");
 }
 
+TEST_F(ReturnWritingTest, ATagThatIsNotOpenCannotBeClosed) {
+    for (const int top : {0, -1, 7}) { // nothing pushed yet, all popped, past the end
+        session_->XmlTagTop = top;
+        EXPECT_EQ(session::testing::failure_of([&] { eReturn(*session_).CloseTag(); }),
+                  "9 Subscript out of range");
+    }
+}
+
 TEST_F(ReturnWritingTest, AFailedWriteIsReportedAndLeavesTheOldFile) {
     const std::string path = folder_.path() + "/kept.xml";
     std::filesystem::create_directory(path + ".writing"); // in the way of the file beside it

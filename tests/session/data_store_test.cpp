@@ -132,8 +132,15 @@ TEST_F(DataStoreTest, AReaderWaitsForAWriterAndThenSaysWhoIsInTheWay) {
     sqlite3_open(folder.file(Store::tax).c_str(), &foreign);
     sqlite3_exec(foreign, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr);
     tax.set_longest_wait(std::chrono::milliseconds(60));
-    EXPECT_EQ(failure_of([&] { (void)tax.open_rows("Enclosure"); }),
-              "5 " + folder.file(Store::tax) + ": database is locked: another program keeps it for too long");
+    const std::string gate = folder.path() + "/LVWTax.gate";
+    std::filesystem::remove(gate);
+    std::filesystem::create_directory(gate); // as in a folder for reading, there is no gate to be had
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_EQ(failure_of([&] { (void)tax.open_rows("Enclosure"); }),
+                  "5 " + folder.file(Store::tax) +
+                      ": database is locked: another program keeps it for too long");
+        std::filesystem::remove(gate);
+    }
     std::thread leaves([&] {
         ::usleep(20000);
         sqlite3_exec(foreign, "COMMIT", nullptr, nullptr, nullptr);

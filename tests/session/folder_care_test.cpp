@@ -44,9 +44,10 @@ protected:
         return text;
     }
     // As a foreign program can: without the store's own checks.
-    void spoil(Store store, const std::string& statement) const {
+    void spoil(Store store, const std::string& statement) const { spoil(folder.file(store), statement); }
+    static void spoil(const std::string& store, const std::string& statement) {
         sqlite3* database = nullptr;
-        sqlite3_open(folder.file(store).c_str(), &database);
+        sqlite3_open(store.c_str(), &database);
         sqlite3_exec(database, "PRAGMA ignore_check_constraints = ON", nullptr, nullptr, nullptr);
         EXPECT_EQ(sqlite3_exec(database, statement.c_str(), nullptr, nullptr, nullptr), SQLITE_OK)
             << sqlite3_errmsg(database);
@@ -69,6 +70,11 @@ TEST_F(FolderCareTest, EachFaultIsToldInPlainWords) {
     spoil(Store::tax, "INSERT INTO NetWealthComputation (AssesseeNo, FY, LessDebt, DueDate) "
                       "VALUES (17, '2014-2015', 'much', '2014-02-30'), (17, '2014-2015', 1, NULL)");
     spoil(Store::tax, "UPDATE Enclosure SET AssesseeNo = 99 WHERE Description = 'of B'");
+    spoil(Store::tax,
+          "UPDATE Enclosure SET AssesseeNo = NULL, Description = x'41' WHERE Description = 'of A'");
+    spoil(Store::tax,
+          "INSERT INTO jewellery (AssesseeNo, DescAndWeiOfPreAndSemiPreStones) VALUES (17.5, x'42')");
+    spoil(Store::forms, "UPDATE Challan SET ChallanDate = 41912 WHERE AssesseeNo = 17");
     spoil(Store::tax, "ALTER TABLE TempPrint DROP COLUMN Col13");
     spoil(Store::income_tax, "DROP TABLE AYRetDate");
     EXPECT_EQ(
@@ -76,9 +82,16 @@ TEST_F(FolderCareTest, EachFaultIsToldInPlainWords) {
         "LVWTax: table \"NetWealthComputation\", row 1, column \"LessDebt\": not a number: \"much\"\n"
         "LVWTax: table \"NetWealthComputation\", row 1, column \"DueDate\": not a date: \"2014-02-30\"\n"
         "LVWTax: table \"NetWealthComputation\" has 2 rows of one key: AssesseeNo 17, FY 2014-2015\n"
+        "LVWTax: table \"Enclosure\", row 1, column \"Description\": not a text: \"A\"\n"
+        "LVWTax: table \"jewellery\", row 1, column \"AssesseeNo\": not a whole number: \"17.5\"\n"
+        "LVWTax: table \"jewellery\", row 1, column \"DescAndWeiOfPreAndSemiPreStones\": not a text or "
+        "number: \"B\"\n"
         "LVWTax: table \"TempPrint\" lacks the column \"Col13\"\n"
         "LVIT: table \"AYRetDate\" is missing\n"
-        "LVWTax: table \"Enclosure\" has 1 row(s) of assessee 99, whom the master does not have\n");
+        "LVForms: table \"Challan\", row 2, column \"ChallanDate\": not a date: \"41912\"\n"
+        "LVWTax: table \"Enclosure\" has 1 row(s) of no assessee\n"
+        "LVWTax: table \"Enclosure\" has 1 row(s) of assessee 99, whom the master does not have\n"
+        "LVWTax: table \"jewellery\" has 1 row(s) of assessee 17.5, whom the master does not have\n");
 }
 
 TEST_F(FolderCareTest, AForeignAMissingAndADamagedStoreAreFaults) {
@@ -121,6 +134,11 @@ TEST_F(FolderCareTest, ADamagedBackupRestoresNothing) {
     std::ofstream(file, std::ios::binary) << image;
     const std::string restored = elsewhere.path() + "/new";
     EXPECT_NE(failure_of([&] { restore_folder(file, restored); }), "none");
+    std::filesystem::remove(file);
+    back_up_folder(folder.path(), file);
+    spoil(file, "DELETE FROM part WHERE name = 'LVIT.db'");
+    EXPECT_EQ(failure_of([&] { restore_folder(file, restored); }),
+              "75 " + file + ": " + restored + "/LVIT.db is not in it");
     EXPECT_FALSE(std::filesystem::exists(restored + "/LVWTax.db"));
 }
 
@@ -173,7 +191,7 @@ TEST_F(FolderCareTest, AFaultAnywhereInItLeavesTheWholeOrNothing) {
         EXPECT_NE(whole, nothing);
         for (const Kind kind : {Kind::once, Kind::full_disk, Kind::memory}) {
             bool reached_the_end = false;
-            for (int n = 1; !reached_the_end; n += kind == Kind::memory ? 1 + n / 8 : 1 + n / 40) {
+            for (int n = 1; !reached_the_end; n += kind == Kind::memory ? 1 + n / 4 : 1 + n / 20) {
                 SCOPED_TRACE(each.why + std::string(", fault ") + std::to_string(n));
                 start_anew(each);
                 if (kind == Kind::memory)

@@ -204,6 +204,17 @@ TEST_F(StoreTrustTest, APowerCutAtAnyPointLeavesTheOldRowsOrTheNew) {
     EXPECT_TRUE(find_faults(folder.path()).empty());
 }
 
+TEST_F(StoreTrustTest, AConnectionThatCannotCommitAtItsEndTakesItsRowsBack) {
+    {
+        Connection tax;
+        tax.open(folder.connect_string(Store::tax));
+        tax.execute("DELETE * FROM PrePaidTaxes");
+        FaultyDisk::fail_at(1, FaultyDisk::Fault::disk_error, FaultyDisk::Lasting::from_then_on);
+    }
+    FaultyDisk::mend();
+    EXPECT_EQ(figure_in(folder, 1), 1);
+}
+
 TEST_F(StoreTrustTest, SeveralProgramsSaveAtOnceAndNobodyIsTurnedAway) {
     // A minute by hand, with the longest wait told: LEVORA_SECONDS=60.
     using Clock = std::chrono::steady_clock;
