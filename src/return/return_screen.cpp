@@ -122,21 +122,24 @@ void frmFormBA::design_grids() {
     }
 }
 
+// A schedule that can't be read ends the opening, not the screen: what was filled so far shows.
 void frmFormBA::Form_Load() {
-    mskAY.set_text(session_.CurrentFY);
-    ReturnFilePath = working_copy_path(session_);
-    std::error_code not_there;
-    if (std::filesystem::is_regular_file(ReturnFilePath, not_there)) {
-        LoadXmlFile(ReturnFilePath);
-        lblFillFrom.set_caption("Filled from Saved Data");
-        lblFillFrom.set_forecolor(red_rgb);
-    } else {
-        FillFromAssessee();
-        FillFromSchedules();
-        lblFillFrom.set_caption("Filled from Computation");
-        lblFillFrom.set_forecolor(blue_rgb);
-    }
-    cmdSave.set_enabled(true);
+    session::procedure(session_, "frmFormBA - Form_Load", [this](const session::Attempt& attempt) {
+        mskAY.set_text(session_.CurrentFY);
+        ReturnFilePath = working_copy_path(session_);
+        std::error_code not_there;
+        if (std::filesystem::is_regular_file(ReturnFilePath, not_there)) {
+            LoadXmlFile(ReturnFilePath);
+            lblFillFrom.set_caption("Filled from Saved Data");
+            lblFillFrom.set_forecolor(red_rgb);
+        } else {
+            FillFromAssessee();
+            attempt([this] { FillFromSchedules(); });
+            lblFillFrom.set_caption("Filled from Computation");
+            lblFillFrom.set_forecolor(blue_rgb);
+        }
+        cmdSave.set_enabled(true);
+    });
 }
 
 // What was found in the return goes with it.

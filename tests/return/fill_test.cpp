@@ -94,6 +94,17 @@ TEST_F(FillTest, ABadMasterValueIsReportedAndEndsOnlyTheFirstHalf) {
     EXPECT_EQ(f.txtAmtBTPTotal.text(), "500");
 }
 
+TEST_F(FillTest, AMissingScheduleEndsTheOpeningNotTheScreen) {
+    add("PrePaidTaxes", "Amount", "500");
+    run_tax("DROP TABLE [Urban Land]");
+    desk_.queue_answer(widgets::Answer::ok); // tried again, and reported again
+    frmFormBA& f = form();
+    EXPECT_EQ(desk_.take_messages().size(), 2U);
+    EXPECT_NE(file_bytes(folder_.path() + "/program/ErrorLog.txt").find("\"frmFormBA - Form_Load\",1,"),
+              std::string::npos);
+    EXPECT_EQ(f.txtAmtBTPTotal.text() + f.lblFillFrom.caption(), "500");
+}
+
 TEST_F(FillTest, EverySchedule) {
     add("PrePaidTaxes", "BSRCode, DateOfPayment, ChallanSrNo, Amount",
         "'0123456', #07/15/2014#, '00123', 1000");
