@@ -23,6 +23,7 @@ namespace {
 
 // A client with as many properties, plots, firms and prepaid taxes as told, stored. Each step below must
 // take no more than in proportion to them: the lines "BigO" say N or less.
+//     build/release/bin/levora_bench --benchmark_filter=growth
 class Client {
 public:
     explicit Client(benchmark::State& state) : rows_(static_cast<int>(state.range(0))) {

@@ -48,7 +48,7 @@ void KeptStores::put_away(Shelf& shelf, std::unique_ptr<OpenStore> store) noexce
     struct stat as_left {};
     // The order matters: a file that is replaced after the first look has moved in the second.
     if (::stat(store->file().c_str(), &as_left) != 0 || store->file_has_moved()) return;
-    store->close_gate();
+    store->rest();
     if (shelf.size() >= most_kept && !shelf.contains(store->file())) shelf.clear();
     const std::string file = store->file();
     shelf.insert_or_assign(file, Kept{std::move(store), as_left});

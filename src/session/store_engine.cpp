@@ -226,6 +226,11 @@ bool OpenStore::file_has_moved() const {
     return code != SQLITE_OK || moved != 0;
 }
 
+void OpenStore::rest() {
+    gate_.close();
+    sqlite3_db_release_memory(database_.get());
+}
+
 void OpenStore::enter_gate() {
     if (!gate_.enter(longest_wait_))
         throw Failure(SQLITE_BUSY, file_ + ": database is locked: another program keeps it for too long");

@@ -91,8 +91,9 @@ public:
     [[nodiscard]] bool is_at_rest() const;
     // Another file, or none, has the name of the one that is open here.
     [[nodiscard]] bool file_has_moved() const;
-    // The gate's file is opened anew at the next turn: it may be another one by then.
-    void close_gate() { gate_.close(); }
+    // Lets go what an idle store does not need: the pages read, and the gate's file, which may be another
+    // one at the next turn.
+    void rest();
 
     [[noreturn]] void fail(int code);
 
