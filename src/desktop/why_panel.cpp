@@ -157,7 +157,7 @@ WhyPanel::WhyPanel(const Explanation& why, QWidget& figure) : QFrame(figure.wind
     setObjectName(QStringLiteral("why"));
     setAttribute(Qt::WA_DeleteOnClose);
     setAccessibleName(tr("Why this figure"));
-    setProperty("card", true);
+    setProperty("overlay", true);
     setFixedWidth(panel_width);
     auto* layout = new QVBoxLayout(this);
     add_words(*layout, tr("Why this figure"), "section");
