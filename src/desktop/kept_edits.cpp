@@ -23,6 +23,8 @@ namespace levora::desktop {
 namespace {
 
 constexpr int quiet_milliseconds = 500; // after the last act, before the file is written
+constexpr int glance_milliseconds = 20;
+constexpr int most_glances = 50;
 
 // One file for each screen, assessee, year and data folder.
 QString path_of(const ScreenWindow& window, const session::Session& session) {
@@ -34,15 +36,20 @@ QString path_of(const ScreenWindow& window, const session::Session& session) {
         .arg(to_qt(session.CurrentFY), QString::fromLatin1(folder.toHex().left(12)));
 }
 
+QString figures(std::size_t count) {
+    return count == 1 ? QObject::tr("One figure") : QObject::tr("%1 figures").arg(count);
+}
+
 void offer(ScreenWindow& window, const QString& path, const std::function<bool(const QString&)>& ask) {
     const std::vector<Edit> kept = KeptEdits::read(path);
     if (kept.empty()) return;
     const QString when =
         QLocale::c().toString(QFileInfo(path).lastModified(), QStringLiteral("dd/MM/yyyy HH:mm"));
-    const bool wanted = ask(QObject::tr("%n figure(s) typed until %1 were not saved when the program ended. "
-                                        "Bring them back? They are saved only when you save.",
-                                        nullptr, static_cast<int>(kept.size()))
-                                .arg(when));
+    const bool wanted =
+        ask(QObject::tr("%1 typed until %2 %3 not saved when the program ended. Bring %4 back? "
+                        "Nothing is saved before you save.")
+                .arg(figures(kept.size()), when, kept.size() == 1 ? QObject::tr("was") : QObject::tr("were"),
+                     kept.size() == 1 ? QObject::tr("it") : QObject::tr("them")));
     QFile::remove(path);
     if (wanted && window.attached()) window.replay(kept);
 }
@@ -103,14 +110,24 @@ void keep_edits(ScreenWindow& window, const session::Session& session,
         QObject::connect(year, &QComboBox::activated, &window, forget);
     QObject::connect(&window, &ScreenWindow::detaching, &window,
                      [&window, &session] { QFile::remove(path_of(window, session)); });
-    auto* first = new QTimer(&window); // once, when the window stands
-    first->setSingleShot(true);
-    QObject::connect(&window, &ScreenWindow::came_up, first, [first, asked = false]() mutable {
-        if (!std::exchange(asked, true)) first->start(0);
+    auto* first = new QTimer(&window); // until the window stands in front, then once
+    first->setInterval(glance_milliseconds);
+    QObject::connect(&window, &ScreenWindow::came_up, first, [first, started = false]() mutable {
+        if (!std::exchange(started, true)) first->start();
     });
-    QObject::connect(first, &QTimer::timeout, &window, [&window, &session, ask = std::move(ask)] {
-        if (window.attached()) offer(window, path_of(window, session), ask);
-    });
+    QObject::connect(first, &QTimer::timeout, &window,
+                     [&window, &session, first, glances = 0, ask = std::move(ask)]() mutable {
+                         if (!window.window()->isActiveWindow() && ++glances < most_glances) return;
+                         first->stop();
+                         if (window.attached()) offer(window, path_of(window, session), ask);
+                     });
+}
+
+bool gives_up_edits(const ScreenWindow& window, const std::function<bool(const QString&)>& ask) {
+    const std::size_t unsaved = window.history().edits().size();
+    return unsaved == 0 || ask(QObject::tr("%1 typed in \"%2\" %3 not saved. Close without saving?")
+                                   .arg(figures(unsaved), window.window()->windowTitle(),
+                                        unsaved == 1 ? QObject::tr("is") : QObject::tr("are")));
 }
 
 } // namespace levora::desktop

@@ -18,6 +18,7 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPushButton>
 #include <QScreen>
 #include <QSettings>
 #include <QShortcut>
@@ -61,6 +62,9 @@ ScreenWindow::ScreenWindow(Form& form, ScreenWindow* around)
     if (inside_) {
         parentWidget()->layout()->addWidget(this);
         around->statusBar()->hide(); // the one inside tells
+        // Its keys stand for both: the same key twice in one window would count as none.
+        for (QShortcut* key : around->findChildren<QShortcut*>(QString(), Qt::FindDirectChildrenOnly))
+            key->setEnabled(false);
     } else {
         restore_place();
     }
@@ -156,6 +160,10 @@ void ScreenWindow::tie_commands() {
     on(QKeySequence(QStringLiteral("Ctrl+Shift+Z")), [this] { redo(); });
     on(QKeySequence(QStringLiteral("Ctrl+S")), [this] { press_button({"cmdSave1", "cmdSave"}); });
     on(QKeySequence(QStringLiteral("Ctrl+P")), [this] { press_button({"cmdPrint", "cmdPreview"}); });
+    on(QKeySequence(QStringLiteral("Ctrl+W")), [this] { window()->close(); });
+    // What is only looked at goes away as a box does.
+    for (const char* looked_at : {"frmRepPreview", "frmSprPreview", "frmReturnCheck"})
+        if (form_->name() == looked_at) on(QKeySequence(QStringLiteral("Esc")), [this] { close(); });
     on(QKeySequence(QStringLiteral("F1")), [this] {
         if (!attached()) return;
         emit explanation_wanted(control_of(QApplication::focusWidget()));
@@ -165,8 +173,10 @@ void ScreenWindow::tie_commands() {
 void ScreenWindow::press_button(std::initializer_list<const char*> names) {
     if (!attached()) return;
     for (const char* name : names)
-        if (Control* control = form_->find(name); control && control->kind() == ControlKind::button) {
-            act([control] { static_cast<widgets::Button*>(control)->click(); });
+        if (const Control* control = form_->find(name); control && control->kind() == ControlKind::button) {
+            // As by the mouse: others listen to the button too.
+            if (Binding* binding = binding_of(*control); binding && control->visible())
+                static_cast<QPushButton*>(binding->widget())->click();
             return;
         }
 }
@@ -353,7 +363,8 @@ void ScreenWindow::replay(const std::vector<Edit>& edits) {
     }
     history_.end_step();
     tell(refused == 0 ? tr("The figures are back.")
-                      : tr("%n figure(s) found no place any more.", nullptr, refused));
+                      : (refused == 1 ? tr("One figure found no place any more.")
+                                      : tr("%1 figures found no place any more.").arg(refused)));
 }
 
 bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -399,7 +410,8 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
 void ScreenWindow::closeEvent(QCloseEvent* event) {
     if (!form_) return;
     event->ignore();
-    emit close_asked();
+    if (may_close_ && !may_close_()) return;
+    if (form_) emit close_asked();
 }
 
 // --- place on the desk ---

@@ -8,6 +8,7 @@
 #include <QHash>
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -37,6 +38,9 @@ public:
 
     // Comes up as the screen says: shown or hidden, modal or not.
     void follow_visibility();
+
+    // Asked before the close box counts; false keeps the window.
+    void ask_before_closing(std::function<bool()> may_close) { may_close_ = std::move(may_close); }
 
     void undo();
     void redo();
@@ -107,6 +111,7 @@ private:
     QStringList faults_;
     QLabel* foot_ = nullptr;
     bool select_on_release_ = false;
+    std::function<bool()> may_close_;
     bool inside_ = false; // another screen's window
 };
 

@@ -1,7 +1,6 @@
 #include "window_fixture.h"
 
 #include <QDir>
-#include <QPushButton>
 #include <QStandardPaths>
 
 namespace levora::desktop::testing {
@@ -66,10 +65,14 @@ TEST_F(KeptEditsTest, ARefusalForgetsThem) {
 
 TEST_F(KeptEditsTest, ASaveAndAnOrderlyEndLeaveNothingBehind) {
     type_debt("777");
-    QTest::mouseClick(&widget<QPushButton>("frmWealthMain", "cmdSave1"), Qt::LeftButton);
+    QTest::keyClick(&window("frmWealthMain"), Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(kept().isEmpty());
     type_debt("888");
     EXPECT_EQ(kept().size(), 1);
+    desk.queue_answer(widgets::Answer::no); // a close box hit by mistake loses nothing
+    window("frmWealthMain").close();
+    EXPECT_EQ(kept().size(), 1);
+    desk.queue_answer(widgets::Answer::yes);
     window("frmWealthMain").close();
     EXPECT_TRUE(kept().isEmpty());
 }

@@ -130,7 +130,7 @@ void papers(Person& person, const QString& xml) {
     person.answer("", QStringLiteral("OK"));
     preview(person, "form_bb");
     person.await_screen("frmFormBA");
-    person.click("cmdClose");
+    person.keys({QStringLiteral("ctrl+w")});
     person.await_screen("frmWealthMain");
 }
 
