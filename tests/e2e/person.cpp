@@ -78,9 +78,16 @@ void Person::await(const std::string& what, const std::function<bool()>& seen) {
 
 void Person::await_screen(const std::string& screen) {
     screen_ = screen;
-    await(screen, [this] {
+    // The window manager may still move a new window about: a click would miss what is on it.
+    constexpr int glances_at_rest = 8;
+    QPoint place;
+    int at_rest = 0;
+    await(screen, [&] {
         ScreenWindow* window = run_->windows().find(screen_);
-        return window && window->isVisible() && window->isActiveWindow();
+        if (!window || !window->isVisible() || !window->isActiveWindow()) return false;
+        at_rest = window->mapToGlobal(QPoint()) == place ? at_rest + 1 : 0;
+        place = window->mapToGlobal(QPoint());
+        return at_rest >= glances_at_rest;
     });
 }
 
