@@ -173,7 +173,9 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     }
     if (index == view_.currentIndex()) {
         painter->save();
-        QPen frame(option.palette.color(QPalette::Highlight), view_.hasFocus() ? 2 : 1);
+        // Without the focus the place is kept, but is not called for.
+        const bool focused = view_.hasFocus();
+        QPen frame(option.palette.color(focused ? QPalette::Highlight : QPalette::Mid), focused ? 2 : 1);
         frame.setJoinStyle(Qt::MiterJoin);
         painter->setPen(frame);
         painter->drawRect(option.rect.adjusted(1, 1, -1, -1));

@@ -9,6 +9,7 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QStandardItemModel>
 #include <QTreeView>
@@ -178,6 +179,14 @@ private:
     bool showing_ = false;
 };
 
+// An amount stands at the right of its column.
+QStandardItem* cell_of(const QString& text) {
+    auto* item = new QStandardItem(text);
+    static const QRegularExpression amount(QStringLiteral("^-?[0-9]+(,[0-9]+)*$"));
+    if (amount.match(text).hasMatch()) item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    return item;
+}
+
 class ColumnListBinding final : public Binding, private QObject {
 public:
     ColumnListBinding(ColumnList& list, QComboBox* box, Acts& acts)
@@ -212,7 +221,7 @@ private:
         rows_->setHorizontalHeaderLabels(headers);
         for (int row = 0; row < list_.count(); ++row)
             for (int column = 0; column < list_.columns(); ++column)
-                rows_->setItem(row, column, new QStandardItem(to_qt(list_.cell(row, column))));
+                rows_->setItem(row, column, cell_of(to_qt(list_.cell(row, column))));
         int width = 0;
         for (int column = 0; column < list_.columns(); ++column) {
             const auto at = static_cast<std::size_t>(column);

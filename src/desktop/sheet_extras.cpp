@@ -52,6 +52,11 @@ void show_composition(const ScreenWindow& window, CompositionChart& chart) {
     if (QWidget* card = chart.parentWidget(); challans && card->isHidden() != covered)
         card->setVisible(!covered);
     if (covered) return;
+    // The dates of the interest take the room of the second chart.
+    const widgets::Control* dates = form.find("frInterest");
+    for (const char* second : {"schedules_title", "schedules"})
+        if (auto* widget = window.findChild<QWidget*>(QLatin1String(second)))
+            widget->setVisible(!(dates && dates->visible()));
     const std::span<const ChartLine> chart_lines =
         form.name() == "frmWealthMain" ? std::span<const ChartLine>(sheet_lines) : asset_lines;
     std::vector<CompositionChart::Bar> bars;
