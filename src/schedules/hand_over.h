@@ -14,7 +14,7 @@ constexpr widgets::HandOver business_to_assets{.from_screen = "frmBusinessAssets
                                                .to_control = "txtNetBusinessAssets",
                                                .words = "the total of the business assets",
                                                .opener = "cmdBusinessAsset",
-    .caution = "leaves this screen without saving it"};
+                                               .caution = "leaves this screen without saving it"};
 
 // Writes a field of the other screen: the text of a field as it stands, the number that a cell holds. A
 // Failure 424 when one of the places is not there.
