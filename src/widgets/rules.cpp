@@ -15,12 +15,10 @@ namespace {
 class Inputs {
 public:
     void add(double figure) {
-        if (count_ < few_.size() && many_.empty()) {
+        if (count_ < few_.size())
             few_[count_++] = figure;
-            return;
-        }
-        if (many_.empty()) many_.assign(few_.begin(), few_.end());
-        many_.push_back(figure);
+        else
+            add_to_many(figure);
     }
     [[nodiscard]] std::span<const double> all() const {
         if (many_.empty()) return {few_.data(), count_};
@@ -28,6 +26,11 @@ public:
     }
 
 private:
+    void add_to_many(double figure) {
+        if (many_.empty()) many_.assign(few_.begin(), few_.end());
+        many_.push_back(figure);
+    }
+
     std::array<double, 8> few_{};
     std::size_t count_ = 0;
     std::vector<double> many_;
@@ -44,13 +47,17 @@ double figure_of_cell(const Grid& grid, int column, int row, Reading reading) {
 }
 
 void read(const Source& source, int column, int row, Inputs& inputs) {
-    if (source.measure) {
+    const ControlKind kind = source.control->kind();
+    const bool stands_there = !source.measure && !source.rule && source.reading == Reading::number;
+    if (stands_there && kind == ControlKind::text_field) {
+        inputs.add(static_cast<const TextField&>(*source.control).value());
+    } else if (source.measure) {
         inputs.add(source.measure(source.control->form()));
     } else if (source.reading == Reading::shown) {
         return;
     } else if (source.rule) {
         inputs.add(source.rule->figure(column, row));
-    } else if (source.control->kind() != ControlKind::grid) {
+    } else if (kind != ControlKind::grid) {
         inputs.add(figure_of_field(*source.control, source.reading));
     } else {
         const auto& grid = static_cast<const Grid&>(*source.control);
