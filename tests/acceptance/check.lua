@@ -13,13 +13,6 @@ function same(got, wanted, why)
         why or "", tostring(got), tostring(wanted)))
 end
 
--- Raises an error whose message holds the text.
-function fails(action, text, why)
-    local ok, message = pcall(action)
-    same(not ok and tostring(message):find(text, 1, true) ~= nil, true,
-        (why or "") .. " (" .. tostring(message) .. ")")
-end
-
 function finish()
     print(passed .. " passed, " .. failed .. " failed")
     os.exit(failed == 0 and 0 or 1)

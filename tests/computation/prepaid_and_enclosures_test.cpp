@@ -188,6 +188,10 @@ TEST_F(PrepaidTest, PanelsSlideInTenStepsEachWay) {
         widgets::Frame& frame;
         widgets::Timer& timer;
         double wider, further_left;
+        void slide() const {
+            while (timer.tick()) {
+            }
+        }
     };
     const Panel panels[] = {
         {sheet().cmdInterest, sheet().frInterest, sheet().timInterest, 3735, 3720},
@@ -208,15 +212,13 @@ TEST_F(PrepaidTest, PanelsSlideInTenStepsEachWay) {
         panel.button.click();
         EXPECT_EQ(panel.button.caption(), "<<");
         EXPECT_TRUE(panel.frame.visible());
-        while (panel.timer.tick()) {
-        }
+        panel.slide();
         EXPECT_FALSE(panel.frame.visible());
         EXPECT_EQ(panel.frame.width_twips, width);
         panel.button.click();
         panel.timer.tick();
         panel.button.click(); // closed while it opens: never narrower than nothing
-        while (panel.timer.tick()) {
-        }
+        panel.slide();
         EXPECT_GE(panel.frame.width_twips, 0);
     }
     EXPECT_EQ(fresh.boxes(), "");

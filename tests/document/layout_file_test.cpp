@@ -1,8 +1,8 @@
 #include "document/layout_file.h"
 #include "document/report.h"
 #include "document/report_files.h"
+#include "session/data_folder.h"
 #include "widgets/failure.h"
-#include "widgets/value_text.h"
 
 #include <gtest/gtest.h>
 
@@ -12,16 +12,13 @@
 namespace levora::document {
 namespace {
 
+using session::testing::failure_of;
+
 std::string fault_of(const std::string& section_content) {
     const std::string text = "<report name=\"R\" body-x=\"0-186\" body-y=\"10-282\">\n<section name=\"S\" "
                              "height=\"20\">\n" +
                              section_content + "\n</section>\n</report>";
-    try {
-        parse_layout(text, "R.rpt");
-    } catch (const Failure& failure) {
-        return number_text(failure.number) + " " + failure.what();
-    }
-    return "none";
+    return failure_of([&] { parse_layout(text, "R.rpt"); });
 }
 
 TEST(LayoutFileTest, AFaultNamesFileLineAndWhatIsWrong) {
@@ -102,13 +99,8 @@ TEST(ReportTest, ObjectsAndSectionsThatAreNotThereAreNamed) {
     report.suppress("S", true);
     EXPECT_TRUE(report.section_suppressed(1));
     EXPECT_FALSE(report.suppressed("txtA"));
-    try {
-        report.set_text("txtB", "");
-        FAIL() << "an unknown object was taken";
-    } catch (const Failure& failure) {
-        EXPECT_EQ(failure.number, 9);
-        EXPECT_STREQ(failure.what(), "The report R has no text object \"txtB\".");
-    }
+    EXPECT_EQ(failure_of([&] { report.set_text("txtB", ""); }),
+              "9 The report R has no text object \"txtB\".");
     EXPECT_THROW(report.suppress_section(2, true), Failure);
 }
 

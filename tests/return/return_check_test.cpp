@@ -63,7 +63,6 @@ const FaultCase fault_cases[] = {
      "13\n"},
     {"a total that is no number", [](frmFormBA& f) { f.txtAggregateImmovableProperty.set_text("5200 Rs"); },
      "Total of immovable property | \"5200 Rs\": this is no number\n"},
-    {"no state", [](frmFormBA& f) { f.cboState.set_index(-1); }, "State | nothing is chosen\n"},
     {"no state of a property",
      [](frmFormBA& f) { f.sprImmovableProperty.type(immovable_column::state, 2, ""); },
      "SCHEDULE- IP Immovale Property, row 2: State | no state is chosen\n"},
@@ -71,11 +70,6 @@ const FaultCase fault_cases[] = {
      "Description of Precious and Semi-precious Stones, row 2: Item No | no jewellery has this number; the "
      "stone "
      "would not be in the file\n"},
-    {"a nameless stone of the second item",
-     [](frmFormBA& f) { f.sprPreciousStone.type(stone_column::description, 2, ""); },
-     "Description of Precious and Semi-precious Stones, row 2: Description of precious or semi-precious "
-     "stones | "
-     "is missing\n"},
     {"the number of a person in row 2",
      [](frmFormBA& f) { f.sprInducibleNetWealth.type(other_person_column::pan, 2, "AAAP"); },
      "SCHEDULE-INW (Includible net wealth on other person), row 2: PAN of Person | \"AAAP\": a permanent "
@@ -97,8 +91,6 @@ const FaultCase fault_cases[] = {
      "Net wealth (1+2+3+4+5) | 1 differs from the net wealth of the computation, 6245\n"},
     {"filed before the valuation date", [](frmFormBA& f) { f.mskOriFillDate.type("30/03/2014"); },
      "Original Return File Date | 30/03/2014 lies before the valuation date 31/03/2014\n"},
-    {"nobody verifies", [](frmFormBA& f) { f.txtVerificationName.type(""); },
-     "Verification: name | is missing\n"},
     {"a character that breaks the file", [](frmFormBA& f) { f.txtWard.type("W <1"); },
      "Ward/Circle/Special Range | holds \"<\", with which the file can't be read\n"},
 };

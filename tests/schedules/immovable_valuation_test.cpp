@@ -146,6 +146,8 @@ TEST_F(ImmovableValuationTest, WorkedExamplesOfScheduleIII) {
     type(Row::road, "M.G. Road");
     EXPECT_EQ(valuation(),
               "163333 24500 120833 / 1208330 1208330 / 0 1208330 / 604165 240000 968330 / 457917");
+    type(Row::annual_value, "200000");
+    EXPECT_EQ(cells(properties(), 2, {Row::gross_rent}), "200000") << "higher than the rent by now";
 }
 
 } // namespace

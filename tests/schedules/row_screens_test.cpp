@@ -126,7 +126,10 @@ TEST_F(BusinessAssetsTest, TheSingleValueIsTakenOnlyAboveAFifthMore) {
 TEST_F(BusinessAssetsTest, ARowOpensItsTabAndItsValueComesBackWhileTheTotalWaits) {
     widgets::Grid& grid = business().sprAssetOfBusiness;
     grid.type(BusinessColumn::balance_sheet, 2, "1000");
-    EXPECT_FALSE(grid.type(BusinessColumn::individual, 2, "5000")); // locked until a value arrives
+    for (const int row : {2, 11})
+        EXPECT_FALSE(grid.type(BusinessColumn::individual, row, "5000")) << "locked until a value arrives";
+    for (const int row : {1, 12})
+        EXPECT_FALSE(grid.cell_locked(BusinessColumn::individual, row));
     grid.choose(BusinessColumn::asset, 2, "Car");
     EXPECT_TRUE(grid.press(BusinessColumn::details, 2));
     EXPECT_TRUE(session.BusinessAssetFlag);

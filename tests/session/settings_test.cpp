@@ -1,5 +1,7 @@
 #include "session/settings.h"
 
+#include "session/data_folder.h"
+
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -18,13 +20,6 @@ const std::string forms_key = R"(Software\Meridew Data Works\Levora Forms)";
 
 class SettingsTest : public ::testing::Test {
 protected:
-    SettingsTest() {
-        std::string name = (std::filesystem::temp_directory_path() / "levora-settings-XXXXXX").string();
-        folder = ::mkdtemp(name.data());
-        path = folder + "/below/settings.toml";
-    }
-    ~SettingsTest() override { std::filesystem::remove_all(folder); }
-
     void put(const std::string& text) const {
         std::filesystem::create_directories(folder + "/below");
         std::ofstream(path, std::ios::binary) << text;
@@ -41,8 +36,9 @@ protected:
         return std::get<std::string>(*setting);
     }
 
-    std::string folder;
-    std::string path;
+    testing::DataFolder made;
+    const std::string& folder = made.path();
+    std::string path = folder + "/below/settings.toml";
 };
 
 TEST_F(SettingsTest, MakesTheFileAndReadsItBackFromAnotherRun) {
