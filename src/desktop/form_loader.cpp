@@ -9,8 +9,6 @@
 
 #include <QFile>
 #include <QScrollArea>
-#include <QStackedWidget>
-#include <QTabWidget>
 
 namespace levora::desktop {
 
@@ -23,14 +21,11 @@ QWidget* FormLoader::load_screen(const std::string& screen, QWidget* parent) {
 
 namespace {
 
-// The widget that a page of tabs, or what a scroll area shows, comes to stand in. One that moves there
-// only when it is whole has all its widgets styled anew.
+// The widget that what a scroll area shows comes to stand in. What moves there only when it is whole has
+// all its widgets styled anew.
 QWidget* final_parent(QWidget* parent) {
-    if (auto* area = qobject_cast<QScrollArea*>(parent)) return area->viewport();
-    if (auto* tabs = qobject_cast<QTabWidget*>(parent))
-        if (auto* pages = tabs->findChild<QStackedWidget*>(QString(), Qt::FindDirectChildrenOnly))
-            return pages;
-    return parent;
+    auto* area = qobject_cast<QScrollArea*>(parent);
+    return area ? area->viewport() : parent;
 }
 
 } // namespace
