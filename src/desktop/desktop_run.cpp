@@ -55,23 +55,12 @@ void DesktopRun::window_made(ScreenWindow* window) {
     const std::string& screen = window->form()->name();
     add_why(*window, windows_);
     if (screen == "frmWealthMain" || screen == "frmImmovable") add_sheet_extras(*window, program_.session());
-    // The first answer is the one that loses nothing.
-    const auto asks = [this](widgets::Answer first, widgets::Answer second) {
-        return [this, first, second](const QString& question) {
-            return widgets::says_yes(
-                program_.session().desk,
-                {from_qt(question), "Figures not saved", widgets::Icon::question, {first, second}});
-        };
-    };
     if (screen == "frmWealthMain" || screen == "frmFormBA")
-        keep_edits(*window, program_.session(), asks(widgets::Answer::yes, widgets::Answer::no));
-    // The sheet takes the return along when it goes; the return goes with the window that it stands in.
-    if (screen == "frmWealthMain" || screen == "frmITMDIParent")
-        window->ask_before_closing([this, window, ask = asks(widgets::Answer::no, widgets::Answer::yes)] {
-            const auto gives_up = [&ask](const ScreenWindow* each) {
-                return !each || !each->attached() || gives_up_edits(*each, ask);
-            };
-            return gives_up(windows_.find("frmFormBA")) && gives_up(window);
+        keep_edits(*window, program_.session(), [this](const QString& question) {
+            return widgets::says_yes(program_.session().desk, {from_qt(question),
+                                                               "Figures not saved",
+                                                               widgets::Icon::question,
+                                                               {widgets::Answer::yes, widgets::Answer::no}});
         });
     if (screen == "frmRepPreview") add_report_pages(*window, own_desk_.get());
     if (screen == "frmSprPreview") add_sheet_pages(*window, sheet_, own_desk_.get());

@@ -123,11 +123,4 @@ void keep_edits(ScreenWindow& window, const session::Session& session,
                      });
 }
 
-bool gives_up_edits(const ScreenWindow& window, const std::function<bool(const QString&)>& ask) {
-    const std::size_t unsaved = window.history().edits().size();
-    return unsaved == 0 || ask(QObject::tr("%1 typed in \"%2\" %3 not saved. Close without saving?")
-                                   .arg(figures(unsaved), window.window()->windowTitle(),
-                                        unsaved == 1 ? QObject::tr("is") : QObject::tr("are")));
-}
-
 } // namespace levora::desktop

@@ -27,7 +27,4 @@ struct KeptEdits {
 void keep_edits(ScreenWindow& window, const session::Session& session,
                 std::function<bool(const QString& question)> ask);
 
-// Whether nothing that was typed there waits for a save, or the person says that it may go.
-bool gives_up_edits(const ScreenWindow& window, const std::function<bool(const QString& question)>& ask);
-
 } // namespace levora::desktop

@@ -160,7 +160,9 @@ void ScreenWindow::tie_commands() {
     on(QKeySequence(QStringLiteral("Ctrl+Shift+Z")), [this] { redo(); });
     on(QKeySequence(QStringLiteral("Ctrl+S")), [this] { press_button({"cmdSave1", "cmdSave"}); });
     on(QKeySequence(QStringLiteral("Ctrl+P")), [this] { press_button({"cmdPrint", "cmdPreview"}); });
-    on(QKeySequence(QStringLiteral("Ctrl+W")), [this] { window()->close(); });
+    // Not the sheet: its close box ends the program without saving and without a question.
+    if (form_->name() != "frmWealthMain")
+        on(QKeySequence(QStringLiteral("Ctrl+W")), [this] { window()->close(); });
     // What is only looked at goes away as a box does.
     for (const char* looked_at : {"frmRepPreview", "frmSprPreview", "frmReturnCheck"})
         if (form_->name() == looked_at) on(QKeySequence(QStringLiteral("Esc")), [this] { close(); });
@@ -410,8 +412,7 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
 void ScreenWindow::closeEvent(QCloseEvent* event) {
     if (!form_) return;
     event->ignore();
-    if (may_close_ && !may_close_()) return;
-    if (form_) emit close_asked();
+    emit close_asked();
 }
 
 // --- place on the desk ---

@@ -39,9 +39,6 @@ public:
     // Comes up as the screen says: shown or hidden, modal or not.
     void follow_visibility();
 
-    // Asked before the close box counts; false keeps the window.
-    void ask_before_closing(std::function<bool()> may_close) { may_close_ = std::move(may_close); }
-
     void undo();
     void redo();
     [[nodiscard]] const EditHistory& history() const { return history_; }
@@ -111,7 +108,6 @@ private:
     QStringList faults_;
     QLabel* foot_ = nullptr;
     bool select_on_release_ = false;
-    std::function<bool()> may_close_;
     bool inside_ = false; // another screen's window
 };
 
