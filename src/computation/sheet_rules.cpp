@@ -101,8 +101,10 @@ void frmWealthMain::connect_chain() {
 }
 
 void frmWealthMain::add_other_rules() {
-    const std::vector<widgets::Source> interest_sources{
-        txtWealthTaxLiability, {mskDueDate, months_of_sheet, "month"}, mskDueDate, mskRetDate};
+    const std::vector<widgets::Source> interest_sources{txtWealthTaxLiability,
+                                                        {mskDueDate, months_of_sheet, "month"},
+                                                        {mskDueDate, Reading::shown},
+                                                        {mskRetDate, Reading::shown}};
     interest_unrounded_ = &rules.add({txtInterest, interest_sources, exact_interest, Write::figure_or_empty});
     interest_rounded_ = &rules.add({txtInterest, interest_sources, rounded_interest, Write::figure_or_empty});
     prepaid_total_ = &rules.add({.target = txtPrepaidTax,

@@ -5,7 +5,6 @@
 #include "widgets/screens.h"
 
 #include <cmath>
-#include <ranges>
 
 namespace levora::widgets {
 
@@ -69,8 +68,8 @@ public:
                 return std::move(told_);
             }
         std::vector<const Rule*> rules;
-        for (const Rule& rule : std::views::reverse(form_.rules.all()))
-            if (rule.holds_for(control_, column_, row_)) rules.push_back(&rule);
+        for (const Rule& rule : form_.rules.all())
+            if (rule.holds_for(control_, column_, row_)) rules.insert(rules.begin(), &rule); // the last first
         if (rules.empty()) return {};
         // A rule that has nothing to write just now stands back behind another.
         while (rules.size() > 1 && stands_back(*rules.front()))

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <stdexcept>
 
 namespace levora::widgets {
 
@@ -38,6 +39,7 @@ private:
 
 double figure_of_field(const Control& field, Reading reading) {
     if (field.kind() == ControlKind::list_field) return static_cast<const ListField&>(field).value();
+    if (field.kind() != ControlKind::text_field) throw std::logic_error(field.name() + " holds no figure");
     const auto& text_field = static_cast<const TextField&>(field);
     return reading == Reading::whole_text ? to_double(text_field.text()) : text_field.value();
 }
