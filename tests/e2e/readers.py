@@ -125,14 +125,25 @@ def main():
                     return window
         return None
 
+    def pressed_away(key, leaving):
+        """The window manager now and then loses a key that comes as soon as a window is there."""
+        subprocess.run(["xdotool", "key", key], check=True)
+        end = time.time() + PATIENCE / 5
+        while time.time() < end:
+            if not front(leaving):
+                return True
+            time.sleep(0.05)
+        return False
+
     told, window = {}, None
     try:
         for press, title in ROUND:
             if press and "+" in press:
-                subprocess.run(["xdotool", "key", press], check=True)
+                leaving = window.name
+                await_for(f"the end of {leaving}", lambda: pressed_away(press, leaving))
             elif press:
                 await_for(press, lambda: find(window, press)).queryAction().doAction(0)
-            window = await_for(title, lambda: front(title))
+            window = await_for(f"{title} after {press}", lambda: front(title))
             told.update(dict.fromkeys(faults(window)))
     finally:
         program.kill()
