@@ -149,6 +149,7 @@ private:
     const widgets::Rule* unrounded_cess_ = nullptr;
 
     bool ChallanDirty = false;  // something changed since the last load, clear or save
+    bool challan_read_ = true;  // all that is stored of it is on the screen
     int ListRow = -1;           // of cboChallanList: the challan now shown, -1 when none
     bool SaveCancelled = false; // Cancel at the prompt that a list change raised
     bool IsNewChallan = false;  // the last SaveChallan added a row

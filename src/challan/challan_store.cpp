@@ -1,5 +1,6 @@
 #include "challan/challan282.h"
 
+#include "session/unread_rows.h"
 #include "widgets/value_text.h"
 
 #include <array>
@@ -89,7 +90,7 @@ void frmChallan282::ClearChallan() {
 }
 
 void frmChallan282::LoadChallan() {
-    procedure(session_, "frmChallan282 - LoadChallan", [&](const Attempt& attempt) {
+    challan_read_ = procedure(session_, "frmChallan282 - LoadChallan", [&](const Attempt& attempt) {
         attempt([&] { ClearChallan(); });
         session_.SqlText = "SELECT * From Challan Where ChallanID = " + number_text(ChallanID) + " ;";
         const RowSet row = attempt([&] { return session_.FormsDb.open_rows(session_.SqlText); });
@@ -140,7 +141,8 @@ void frmChallan282::show_options(const RowSet& row) {
 }
 
 bool frmChallan282::SaveChallan() {
-    return procedure(session_, "frmChallan282 - SaveChallan", [&](const Attempt& attempt) {
+    bool kept = false;
+    const bool saved = procedure(session_, "frmChallan282 - SaveChallan", [&](const Attempt& attempt) {
         const auto open = [&](const std::string& select) {
             session_.SqlText = select;
             return attempt([&] { return session_.FormsDb.open_rows(session_.SqlText, RowSetUse::update); });
@@ -156,6 +158,9 @@ bool frmChallan282::SaveChallan() {
                 row.close();
                 row = open("SELECT * from Challan Where ChallanID = " + number_text(ChallanID) + " ;");
                 IsNewChallan = row.eof();
+                kept = !IsNewChallan && !challan_read_ &&
+                       ask_over_unread(session_, "Parts of the stored challan") != OverUnread::save;
+                if (kept) return;
             } else {
                 IsNewChallan = true;
             }
@@ -169,8 +174,10 @@ bool frmChallan282::SaveChallan() {
         attempt([&] { row.update(); });
         row.close();
         list_saved_challan();
+        challan_read_ = true;
         ChallanDirty = false;
     });
+    return saved && !kept;
 }
 
 bool frmChallan282::may_overwrite() {

@@ -1,5 +1,6 @@
 #include "computation/wealth_sheet.h"
 #include "session/common_services.h"
+#include "session/unread_rows.h"
 
 #include <array>
 #include <string_view>
@@ -80,14 +81,16 @@ template <class Step> void frmWealthMain::load_prepaid(const PrepaidLoading& how
 }
 
 void frmWealthMain::LoadPrepaidTaxes() {
-    session::procedure(session_, "frmWealthTaxMain - LoadPrepaidTaxes", [this](const auto& attempt) {
-        load_prepaid({.grow_grid = false, .dates_checked = true, .amount_as_number = true}, attempt);
-    });
+    prepaid_read_ =
+        session::procedure(session_, "frmWealthTaxMain - LoadPrepaidTaxes", [this](const auto& attempt) {
+            load_prepaid({.grow_grid = false, .dates_checked = true, .amount_as_number = true}, attempt);
+        });
 }
 
 void frmWealthMain::LoadPrepaidTaxesOnOpen() {
     load_prepaid({.grow_grid = true, .dates_checked = false, .amount_as_number = false},
                  [](const auto& statement) { return statement(); });
+    prepaid_read_ = true;
 }
 
 void frmWealthMain::SavePrepaidTaxes() {
@@ -101,6 +104,9 @@ void frmWealthMain::SavePrepaidTaxesOnClose() {
 }
 
 void frmWealthMain::save_prepaid(const std::string& deletion, RowSetAtEnd at_end) {
+    if (!prepaid_read_ && ask_over_unread(session_, "frmWealthMain - SavePrepaidTaxes",
+                                          {{"PrePaidTaxes", row_key()}}) != session::OverUnread::save)
+        return;
     session_.SqlText = deletion;
     session_.TaxDb.execute(session_.SqlText);
     session_.SqlText = "Select * From PrePaidTaxes where " + row_key();

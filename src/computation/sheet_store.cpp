@@ -1,5 +1,6 @@
 #include "computation/wealth_sheet.h"
 #include "session/common_services.h"
+#include "session/unread_rows.h"
 #include "widgets/date_text.h"
 
 #include <string_view>
@@ -100,7 +101,7 @@ void frmWealthMain::ClearTaxComputation() {
 }
 
 void frmWealthMain::LoadWealthTaxComputation() {
-    session::procedure(session_, "frmWealthTaxMain - LoadWealthTaxComputation", [this](const auto& attempt) {
+    const auto load = [this](const auto& attempt) {
         session_.SqlText =
             "select * From NetWealthComputation where AssesseeNo = " + session_.assessee_text() +
             " and FY = '" + session_.CurrentFY + "'";
@@ -111,10 +112,15 @@ void frmWealthMain::LoadWealthTaxComputation() {
                     std::visit([&](auto field) { show(this->*field, row[column.name]); }, column.field);
                 });
         load_enclosures(attempt);
-    });
+    };
+    sheet_read_ = session::procedure(session_, "frmWealthTaxMain - LoadWealthTaxComputation", load);
 }
 
 void frmWealthMain::SaveWealthTaxComputation() {
+    if (!sheet_read_ && ask_over_unread(session_, "frmWealthMain - SaveWealthTaxComputation",
+                                        {{"NetWealthComputation", row_key()}, {"Enclosure", row_key()}}) !=
+                            session::OverUnread::save)
+        return;
     session::procedure(session_, "frmWealthMain - SaveWealthTaxComputation", [this](const auto& attempt) {
         session_.SqlText = "Select * from NetWealthComputation WHERE " + row_key();
         session::RowSet row = attempt(

@@ -156,6 +156,9 @@ private:
     const widgets::Rule* interest_rounded_ = nullptr;
     const widgets::Rule* prepaid_total_ = nullptr;
 
+    bool sheet_read_ = false;   // all that is stored of it is on the screen
+    bool prepaid_read_ = false; //
+
     int InterestSlideDirection = 0; // 1 opening, 0 closing
     std::uint8_t InterestSlideStep = 0;
     int SATaxSlideDirection = 0;

@@ -33,7 +33,7 @@ void frmFormBA::ClearFormBA() {
     clear_other_persons();
 }
 
-void frmFormBA::LoadXmlFile(const std::string& path) {
+bool frmFormBA::LoadXmlFile(const std::string& path) {
     const std::optional<XmlDocument> document = XmlDocument::load(path);
     if (!document) {
         widgets::MessageBox box;
@@ -41,9 +41,10 @@ void frmFormBA::LoadXmlFile(const std::string& path) {
         box.text = "Blank or Invalid XML file, could not load the file";
         box.icon = widgets::Icon::information;
         session_.desk.show_message(box);
-        return;
+        return false;
     }
     ReadFormBAXml(*this, *document);
+    return true;
 }
 
 } // namespace levora::form_ba

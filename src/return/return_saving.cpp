@@ -2,6 +2,7 @@
 #include "return/return_screen.h"
 #include "session/common_services.h"
 #include "session/file_faults.h"
+#include "session/unread_rows.h"
 
 #include <cerrno>
 
@@ -50,10 +51,16 @@ void frmFormBA::cmdSave_Click() {
         std::string path = working_copy_path(session_);
         // A revised return's copy has a name of its own, under which the next opening does not look.
         if (cboReturnType.text() != "Original") path += "R";
+        if (path == unread_copy_ &&
+            session::ask_over_unread(session_, "The saved data in " + path) != session::OverUnread::save) {
+            IsSaving = false;
+            return;
+        }
         eReturn xml(session_);
         write_document(xml, *this, session_);
         make_folder_of(path);
         xml.save(path);
+        if (path == unread_copy_) unread_copy_.clear();
         IsSaving = false;
         lblFillFrom.set_caption("Data Saved");
     });

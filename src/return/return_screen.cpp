@@ -129,7 +129,8 @@ void frmFormBA::Form_Load() {
         ReturnFilePath = working_copy_path(session_);
         std::error_code not_there;
         if (std::filesystem::is_regular_file(ReturnFilePath, not_there)) {
-            LoadXmlFile(ReturnFilePath);
+            unread_copy_ = ReturnFilePath;
+            if (LoadXmlFile(ReturnFilePath)) unread_copy_.clear();
             lblFillFrom.set_caption("Filled from Saved Data");
             lblFillFrom.set_forecolor(red_rgb);
         } else {

@@ -39,7 +39,7 @@ public:
     // holds. A failing statement is the caller's Failure.
     void FillFromSchedules();
     // Fills the screen from an XML document; a file without a root element gives a message.
-    void LoadXmlFile(const std::string& path);
+    bool LoadXmlFile(const std::string& path); // false when it could not be read, which is told
     // Empties text fields and grids; masks and lists stay.
     void ClearFormBA();
 
@@ -240,6 +240,7 @@ private:
     void cmdPrint_Click();
     void cmdClose_Click();
 
+    std::string unread_copy_; // the working copy that could not be read, until it is replaced
     const widgets::Rule* btp_total_ = nullptr;
     const widgets::Rule* immovable_total_ = nullptr;
     const widgets::Rule* movable_total_ = nullptr;

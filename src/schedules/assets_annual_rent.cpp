@@ -4,6 +4,7 @@
 #include "schedules/assets_immovable.h"
 #include "schedules/grid_keys.h"
 #include "schedules/property_grid.h"
+#include "session/unread_rows.h"
 #include "widgets/form.h"
 
 #include <array>
@@ -13,6 +14,7 @@
 namespace levora::schedules {
 
 using session::Attempt;
+using session::OverUnread;
 using session::procedure;
 using session::RowSet;
 using session::RowSetUse;
@@ -158,6 +160,13 @@ void AnnualRentPanel::sprAnnualRent_Change(int, int row) {
 }
 
 void AnnualRentPanel::cmdOKAnnualRent_Click() {
+    if (!read_) {
+        const int property_no = immovable_.sprImmovable.active_column() - 1;
+        const OverUnread choice = ask_over_unread(session_, "frmImmovable - SaveAnnualRent",
+                                                  {{"Annual Rent", property_key(session_, property_no)}});
+        if (choice == OverUnread::leave) frAnnualRent.set_visible(false);
+        if (choice != OverUnread::save) return;
+    }
     SaveAnnualRent();
     frAnnualRent.set_visible(false);
     const int column = immovable_.sprImmovable.active_column();
@@ -166,7 +175,7 @@ void AnnualRentPanel::cmdOKAnnualRent_Click() {
 }
 
 void AnnualRentPanel::LoadAnnualRent() {
-    procedure(session_, "frmImmovable - LoadAnnualRent", [this](const Attempt& attempt) {
+    read_ = procedure(session_, "frmImmovable - LoadAnnualRent", [this](const Attempt& attempt) {
         const int property_no = immovable_.sprImmovable.active_column() - 1;
         session_.SqlText = "Select * From [Annual Rent] Where " + property_key(session_, property_no);
         const RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });

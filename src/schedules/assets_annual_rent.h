@@ -36,6 +36,7 @@ private:
 
     session::Session& session_;
     ImmovableSchedule& immovable_;
+    bool read_ = false; // what is stored of the property is on the screen
     const widgets::Rule* repairs_ = nullptr;
     const widgets::Rule* interest_ = nullptr;
     const widgets::Rule* total_ = nullptr;

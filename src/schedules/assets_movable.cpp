@@ -91,8 +91,9 @@ void MovableSchedule::load(const Attempt& attempt) {
         "Select * From [Movable Property Details] where " + asset_key(session_) + " Order by SrNo";
     RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
     for (; !records.eof(); records.move_next()) {
-        const auto row = static_cast<int>(records["SrNo"].number());
-        if (row >= 1 && row <= sprMovableProp.rows()) fill_row(sprMovableProp, row, fields, records);
+        const double row = records["SrNo"].number();
+        if (row >= 1 && row < sprMovableProp.rows() + 1)
+            fill_row(sprMovableProp, static_cast<int>(row), fields, records);
     }
 }
 

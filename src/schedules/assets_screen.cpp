@@ -5,10 +5,12 @@
 #include "schedules/hand_over.h"
 #include "schedules/named_control.h"
 #include "session/common_services.h"
+#include "session/unread_rows.h"
 
 namespace levora::schedules {
 
 using session::Attempt;
+using session::OverUnread;
 using session::procedure;
 using session::RowSet;
 using session::RowSetUse;
@@ -103,7 +105,7 @@ void frmImmovable::Form_Load() {
 }
 
 void frmImmovable::LoadAssetComputation() {
-    procedure(session_, "frmImmovable - LoadAssetComputation", [this](const Attempt& attempt) {
+    read_ = procedure(session_, "frmImmovable - LoadAssetComputation", [this](const Attempt& attempt) {
         immovable.load(attempt);
         urban_land.load(attempt);
         movable.load(attempt);
@@ -154,6 +156,19 @@ void frmImmovable::save_asset_details(const Attempt& attempt) {
 }
 
 void frmImmovable::cmdOK_Click() {
+    if (!read_) {
+        std::vector<session::UnreadTable> tables{{"jewellery", year_key(session_)}};
+        for (const std::string_view each :
+             {"Immovable Property Details", "Urban Land", "Movable Property Details", "InterestInFirmOrAOP",
+              "Asset Details"})
+            tables.push_back({each, asset_key(session_)});
+        const OverUnread choice = ask_over_unread(session_, "frmImmovable - SaveAssetComputation", tables);
+        if (choice == OverUnread::leave) {
+            session_.screens.show(in_main_mode() ? "frmWealthMain" : asset_parent(session_).screen);
+            leave();
+        }
+        if (choice != OverUnread::save) return;
+    }
     SaveAssetComputation();
     widgets::Screens& screens = session_.screens;
     if (in_main_mode()) {

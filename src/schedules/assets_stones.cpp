@@ -2,12 +2,14 @@
 
 #include "schedules/assets_jewellery.h"
 #include "schedules/schedule_field.h"
+#include "session/unread_rows.h"
 #include "widgets/form.h"
 
 #include <array>
 
 namespace levora::schedules {
 
+using session::OverUnread;
 using session::RowSet;
 using session::RowSetUse;
 using widgets::CellDesign;
@@ -76,10 +78,12 @@ void StonesPanel::open(int column) {
 }
 
 void StonesPanel::LoadPreciousStones() {
+    read_ = false;
     sprPreciousStone.clear_data();
     session_.SqlText = "Select * From [PreciousStones] where " + item_key() + " Order By StoneSrNo";
     RowSet records = session_.TaxDb.open_rows(session_.SqlText);
     fill_rows(sprPreciousStone, fields, records, RowGrowth::as_needed);
+    read_ = true;
     sprPreciousStone_Change();
 }
 
@@ -107,6 +111,12 @@ void StonesPanel::sprPreciousStone_Change() {
 }
 
 void StonesPanel::btnOK_Click() {
+    if (!read_ && sprPreciousStone.data_rows() > 0) {
+        const OverUnread choice =
+            ask_over_unread(session_, "frmImmovable - btnOK_Click", {{"PreciousStones", item_key()}});
+        if (choice == OverUnread::leave) frPreciousStone.set_visible(false);
+        if (choice != OverUnread::save) return;
+    }
     SavePreciousStones();
     frPreciousStone.set_visible(false);
     // Wanted: for information only, so it enters no total; a total of 0 leaves the value as it was.

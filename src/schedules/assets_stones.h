@@ -46,6 +46,7 @@ private:
 
     session::Session& session_;
     JewellerySchedule& jewellery_;
+    bool read_ = false; // all stored stones of the item are on the screen
     const widgets::Rule* total_ = nullptr;
 };
 

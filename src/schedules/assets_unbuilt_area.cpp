@@ -5,6 +5,7 @@
 #include "schedules/assets_screen.h"
 #include "schedules/grid_keys.h"
 #include "schedules/property_grid.h"
+#include "session/unread_rows.h"
 
 #include <algorithm>
 #include <array>
@@ -14,6 +15,7 @@
 namespace levora::schedules {
 
 using session::Attempt;
+using session::OverUnread;
 using session::procedure;
 using session::RowSet;
 using session::RowSetUse;
@@ -197,6 +199,13 @@ void UnbuiltAreaPanel::sprUnbuiltArea_Change(int, int row) {
 }
 
 void UnbuiltAreaPanel::cmdUnbuiltAreaOk_Click() {
+    if (!read_) {
+        const int property_no = immovable_.sprImmovable.active_column() - 1;
+        const OverUnread choice = ask_over_unread(session_, "frmImmovable - SaveUnbuiltArea",
+                                                  {{"Unbuilt Area", property_key(session_, property_no)}});
+        if (choice == OverUnread::leave) frUnbuiltArea.set_visible(false);
+        if (choice != OverUnread::save) return;
+    }
     SaveUnbuiltArea();
     frUnbuiltArea.set_visible(false);
     widgets::Grid& properties = immovable_.sprImmovable;
@@ -210,7 +219,7 @@ void UnbuiltAreaPanel::cmdUnbuiltAreaOk_Click() {
 }
 
 void UnbuiltAreaPanel::LoadUnbuiltArea() {
-    procedure(session_, "frmImmovable - LoadUnbuiltArea", [this](const Attempt& attempt) {
+    read_ = procedure(session_, "frmImmovable - LoadUnbuiltArea", [this](const Attempt& attempt) {
         sprUnbuiltArea.clear_data();
         const int property_no = immovable_.sprImmovable.active_column() - 1;
         session_.SqlText = "Select * From [Unbuilt Area] where " + property_key(session_, property_no);

@@ -39,6 +39,7 @@ private:
 
     session::Session& session_;
     ImmovableSchedule& immovable_;
+    bool read_ = false; // what is stored of the property is on the screen
     const widgets::Rule* specified_ = nullptr;
     const widgets::Rule* calculated_ = nullptr;
     const widgets::Rule* premium_ = nullptr;

@@ -6,12 +6,14 @@
 #include "schedules/hand_over.h"
 #include "schedules/named_control.h"
 #include "schedules/schedule_field.h"
+#include "session/unread_rows.h"
 
 #include <array>
 
 namespace levora::schedules {
 
 using session::Attempt;
+using session::OverUnread;
 using session::procedure;
 using session::RowSet;
 using session::RowSetUse;
@@ -132,7 +134,7 @@ void frmBusinessAssets::sprAssetOfBusiness_ButtonClicked(int row) {
 }
 
 void frmBusinessAssets::LoadBusinessassets() {
-    procedure(session_, "frmBusinessAssets - LoadBusinessassets", [this](const Attempt& attempt) {
+    read_ = procedure(session_, "frmBusinessAssets - LoadBusinessassets", [this](const Attempt& attempt) {
         sprAssetOfBusiness.clear_data();
         session_.SqlText = "Select * From BusinessAsset Where " + year_key(session_);
         RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
@@ -160,6 +162,13 @@ void frmBusinessAssets::SaveBusinessAsset() {
 }
 
 void frmBusinessAssets::cmdBusinessAssetSave_Click() {
+    if (!read_) {
+        const OverUnread choice = ask_over_unread(session_, "frmBusinessAssets - SaveBusinessAsset",
+                                                  {{"BusinessAsset", year_key(session_)}});
+        if (choice == OverUnread::leave) cmdCancel_Click();
+        if (choice != OverUnread::save) return;
+        read_ = true; // this screen stays loaded
+    }
     SaveBusinessAsset();
     session_.BusinessAssetFlag = false;
     show_assets_afresh(session_);

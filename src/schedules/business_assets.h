@@ -38,6 +38,7 @@ private:
     void cmdCancel_Click();
 
     const widgets::Rule* total_ = nullptr;
+    bool read_ = false; // all stored rows are on the screen
 };
 
 } // namespace levora::schedules

@@ -6,6 +6,7 @@
 #include "schedules/grid_keys.h"
 #include "schedules/hand_over.h"
 #include "schedules/schedule_field.h"
+#include "session/unread_rows.h"
 
 #include <array>
 #include <string>
@@ -14,6 +15,7 @@
 namespace levora::schedules {
 
 using session::Attempt;
+using session::OverUnread;
 using session::procedure;
 using session::RowSet;
 using session::RowSetUse;
@@ -161,7 +163,7 @@ void frmDeemedAsset::sprDeemedAsset_ComboSelChange(int row) {
 }
 
 void frmDeemedAsset::LoadDeemedAsset() {
-    procedure(session_, "frmDeemedAsset - LoadDeemedAsset", [this](const Attempt& attempt) {
+    read_ = procedure(session_, "frmDeemedAsset - LoadDeemedAsset", [this](const Attempt& attempt) {
         session_.SqlText = "Select * From DeemedAssetDetails Where " + year_key(session_);
         RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
         // Wanted: a thirteenth record goes into the total row, whose figures stay its own.
@@ -186,6 +188,12 @@ void frmDeemedAsset::SaveDeemedAsset() {
 }
 
 void frmDeemedAsset::cmdDeemedAssetOk_Click() {
+    if (!read_) {
+        const OverUnread choice = ask_over_unread(session_, "frmDeemedAsset - SaveDeemedAsset",
+                                                  {{"DeemedAssetDetails", year_key(session_)}});
+        if (choice == OverUnread::leave) cmdDeemedAssetCancel_Click();
+        if (choice != OverUnread::save) return;
+    }
     SaveDeemedAsset();
     session_.DeemedAssetFlag = false;
     // Wanted: row 13 also where the total row has moved down.

@@ -52,6 +52,8 @@ private:
     void cmdDeemedAssetOk_Click();
     void cmdDeemedAssetCancel_Click();
     void show_sheet();
+
+    bool read_ = false; // all stored rows are on the screen
 };
 
 } // namespace levora::schedules

@@ -1,9 +1,11 @@
 #include "schedules/exempted_assets.h"
 
 #include "computation/hand_overs.h"
+#include "schedules/asset_schedule.h"
 #include "schedules/grid_keys.h"
 #include "schedules/hand_over.h"
 #include "schedules/schedule_field.h"
+#include "session/unread_rows.h"
 
 #include <array>
 #include <string>
@@ -11,6 +13,7 @@
 namespace levora::schedules {
 
 using session::Attempt;
+using session::OverUnread;
 using session::procedure;
 using session::RowSet;
 using session::RowSetUse;
@@ -134,7 +137,7 @@ void frmAssetExempt::sheet_of_active_grid(session::SheetUse use) {
 }
 
 void frmAssetExempt::LoadExemptedAsset() {
-    procedure(session_, "frmAssetExempt - LoadExemptedAsset", [this](const Attempt& attempt) {
+    read_ = procedure(session_, "frmAssetExempt - LoadExemptedAsset", [this](const Attempt& attempt) {
         sprAssetExempt.clear_data();
         session_.SqlText = "Select * From AssetUnderExemption Where " + exempted_key(session_);
         RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
@@ -157,6 +160,12 @@ void frmAssetExempt::SaveExemptedAsset() {
 }
 
 void frmAssetExempt::cmdOK_Click() {
+    if (!read_) {
+        const OverUnread choice = ask_over_unread(session_, "frmAssetExempt - SaveExemptedAsset",
+                                                  {{"AssetUnderExemption", year_key(session_)}});
+        if (choice == OverUnread::leave) show_sheet();
+        if (choice != OverUnread::save) return;
+    }
     SaveExemptedAsset();
     hand_over(computation::exempted_to_sheet, *this, session_.screens.load("frmWealthMain"));
     show_sheet();

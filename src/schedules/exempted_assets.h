@@ -47,6 +47,7 @@ private:
     void show_sheet();
 
     const widgets::Rule* total_ = nullptr;
+    bool read_ = false; // all stored rows are on the screen
 };
 
 } // namespace levora::schedules

@@ -42,7 +42,7 @@ struct Connection::State {
     std::shared_ptr<OpenStore> store;
     std::string file;
     KeptStores* kept = nullptr;
-    std::chrono::milliseconds longest_wait{std::chrono::seconds(10)};
+    std::chrono::milliseconds longest_wait = OpenStore::usual_wait;
 };
 
 Connection::Connection() : state_(std::make_unique<State>()) {}
@@ -63,7 +63,8 @@ void Connection::open(const std::string& connect_string) {
         throw Failure(error_number::store_not_found,
                       "Could not find file '': the connect string names none.");
     const std::string file = store_file(told);
-    state_->store = state_->kept ? state_->kept->open(file) : std::make_shared<OpenStore>(file);
+    state_->store =
+        state_->kept ? state_->kept->open(file) : std::make_shared<OpenStore>(file, state_->longest_wait);
     state_->store->set_longest_wait(state_->longest_wait);
     state_->file = state_->store->file();
 }

@@ -20,6 +20,15 @@ constexpr int item_not_found = 3265;
                                                    std::string(wanted) + ": \"" + value.text() + "\"");
 }
 
+// Nothing that such a column could show: saving it again would lose it. Dates are left out, as what is no
+// date is shown as none.
+bool is_wrong(const ColumnRule& rule, int type, const Value& value) {
+    if (type == SQLITE_BLOB) return true;
+    const bool of_number =
+        rule.kind == ColumnKind::number || rule.kind == ColumnKind::whole || rule.kind == ColumnKind::counter;
+    return of_number && type == SQLITE_TEXT && !trimmed(value.text()).empty() && !strict_number(value.text());
+}
+
 double number_for(const ColumnRule& rule, const Value& value) {
     double number = value.number();
     if (value.is_text()) {
@@ -162,6 +171,7 @@ void RowSet::State::update_row(OpenStore& writing) {
     if (sqlite3_changes(writing.database()) == 0) throw Failure(row_is_gone, "Record is deleted.");
     writing.remember({std::move(text), std::move(values)});
     rows[current] = edited;
+    std::erase_if(wrong, [&](const auto& each) { return each.first == current && changed[each.second]; });
 }
 
 PreparedStatement prepare_select(OpenStore& store, const StatementText& statement) {
@@ -195,8 +205,8 @@ std::unique_ptr<RowSet::State> read_rows(const std::shared_ptr<OpenStore>& store
         state->columns.emplace_back(sqlite3_column_name(select.get(), i));
         state->rules.push_back(rule ? find_column(*rule, state->columns.back()) : nullptr);
     }
+    state->table_name = statement.table;
     if (numbered) {
-        state->table_name = statement.table;
         state->table = as_name(statement.table);
         if (!statement.alias.empty()) state->table = as_name(statement.alias) + "." + state->table;
     }
@@ -204,8 +214,13 @@ std::unique_ptr<RowSet::State> read_rows(const std::shared_ptr<OpenStore>& store
         if (numbered) state->row_numbers.push_back(sqlite3_column_int64(select.get(), 0));
         std::vector<Value>& row = state->rows.emplace_back();
         row.reserve(state->columns.size());
-        for (int i = first; i < count; ++i)
+        for (int i = first; i < count; ++i) {
+            const auto column = static_cast<std::size_t>(i - first);
+            const ColumnRule* const of_column = state->rules[column];
             row.push_back(column_value(select.get(), i));
+            if (of_column && is_wrong(*of_column, sqlite3_column_type(select.get(), i), row.back()))
+                state->wrong.emplace(state->rows.size() - 1, column);
+        }
     }
     return state;
 }
@@ -247,7 +262,12 @@ const Value& RowSet::operator[](std::string_view column) const {
     const std::size_t at = state.column(column);
     if (state.editing != State::Editing::nothing) return state.edited[at];
     if (state.current >= state.rows.size()) throw Failure(no_current_row, "No current record.");
-    return state.rows[state.current][at];
+    const Value& value = state.rows[state.current][at];
+    if (state.wrong.contains({state.current, at}))
+        throw Failure(error_number::type_mismatch,
+                      "table \"" + state.table_name + "\", column \"" + std::string(column) + "\": not a " +
+                          std::string(in_words(state.rules[at]->kind)) + ": \"" + value.text() + "\"");
+    return value;
 }
 
 const std::vector<std::string>& RowSet::columns() const {

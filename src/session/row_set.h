@@ -5,7 +5,9 @@
 
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace levora::session {
@@ -13,12 +15,14 @@ namespace levora::session {
 struct RowSet::State {
     std::weak_ptr<OpenStore> store;
     RowSetUse use = RowSetUse::read;
-    std::string table_name;
-    std::string table; // as a statement has it, with its file; empty when rows can't be updated
+    std::string table_name; // of a single table
+    std::string table;      // as a statement has it, with its file; empty when rows can't be updated
     std::vector<std::string> columns;
     std::vector<const ColumnRule*> rules;  // null for a column that is not of the catalogue
     std::vector<std::int64_t> row_numbers; // of a row set for update
     std::vector<std::vector<Value>> rows;
+    // Row and column of values that their column can't hold, which a foreign program has left there.
+    std::set<std::pair<std::size_t, std::size_t>> wrong;
     std::size_t current = 0;
 
     enum class Editing { nothing, current_row, new_row };

@@ -64,24 +64,6 @@ std::string wrong_value_test(const ColumnRule& column) {
     return name + " IS NOT date(" + name + ", '+0 days')";
 }
 
-std::string_view wanted(ColumnKind kind) {
-    switch (kind) {
-    case ColumnKind::text:
-        return "text";
-    case ColumnKind::text_or_number:
-        return "text or number";
-    case ColumnKind::number:
-        return "number";
-    case ColumnKind::whole:
-    case ColumnKind::counter:
-        return "whole number";
-    case ColumnKind::date:
-    case ColumnKind::date_or_empty:
-        break;
-    }
-    return "date";
-}
-
 void Checker::check_store(Store store) {
     try {
         const StatementResult integrity = run(store, "PRAGMA integrity_check(10)");
@@ -135,7 +117,7 @@ void Checker::check_values(const TableRule& table, const ColumnRule& column) {
                              number_text(static_cast<double>(most_rows_told)));
     for (const auto& row : wrong.rows)
         tell(table.store, "table \"" + std::string(table.name) + "\", row " + row[0].text() + ", column \"" +
-                              std::string(column.name) + "\": not a " + std::string(wanted(column.kind)) +
+                              std::string(column.name) + "\": not a " + std::string(in_words(column.kind)) +
                               ": \"" + row[1].text() + "\"");
 }
 

@@ -69,7 +69,8 @@ std::optional<Store> store_of_file(const std::string& file) {
 
 } // namespace
 
-OpenStore::OpenStore(std::string file) : file_(std::move(file)), store_(store_of_file(file_)), gate_(file_) {
+OpenStore::OpenStore(std::string file, std::chrono::milliseconds longest_wait)
+    : file_(std::move(file)), store_(store_of_file(file_)), gate_(file_), longest_wait_(longest_wait) {
     check_file(file_);
     stop_counting_memory();
     sqlite3* database = nullptr;

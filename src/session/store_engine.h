@@ -32,7 +32,9 @@ template <class T> void make_room(std::vector<T>& list) {
 // here as a Failure with the engine's number and text, and the file's path where it is the file's.
 class OpenStore {
 public:
-    explicit OpenStore(std::string file);
+    // How long a store that another program keeps is waited for, the opening too.
+    static constexpr std::chrono::milliseconds usual_wait = std::chrono::seconds(10);
+    explicit OpenStore(std::string file, std::chrono::milliseconds longest_wait = usual_wait);
     ~OpenStore();
     OpenStore(const OpenStore&) = delete;
     OpenStore& operator=(const OpenStore&) = delete;
@@ -109,7 +111,7 @@ private:
     std::optional<Store> store_;
     std::unique_ptr<sqlite3, CloseDatabase> database_;
     StoreGate gate_;
-    std::chrono::milliseconds longest_wait_{std::chrono::seconds(10)};
+    std::chrono::milliseconds longest_wait_;
     std::chrono::steady_clock::time_point busy_until_;
     std::vector<std::string> detaching_; // a statement for each file attached
     bool gate_borrowed_ = false;

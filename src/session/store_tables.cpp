@@ -250,6 +250,24 @@ const ColumnRule* find_column(const TableRule& table, std::string_view name) {
     return nullptr;
 }
 
+std::string_view in_words(ColumnKind kind) {
+    switch (kind) {
+    case ColumnKind::text:
+        return "text";
+    case ColumnKind::text_or_number:
+        return "text or number";
+    case ColumnKind::number:
+        return "number";
+    case ColumnKind::whole:
+    case ColumnKind::counter:
+        return "whole number";
+    case ColumnKind::date:
+    case ColumnKind::date_or_empty:
+        break;
+    }
+    return "date";
+}
+
 std::string create_table_statement(const TableRule& table) {
     std::string columns;
     for (const ColumnRule& each : table.columns)

@@ -39,6 +39,8 @@ std::span<const TableRule> store_tables();
 // Null when the store has no such table, or the table no such column; names without regard to case.
 const TableRule* find_table(Store store, std::string_view name);
 const ColumnRule* find_column(const TableRule& table, std::string_view name);
+// What a column of the kind holds: "whole number".
+std::string_view in_words(ColumnKind kind);
 
 // The statements that make the table and its index.
 std::string create_table_statement(const TableRule& table);
