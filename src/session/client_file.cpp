@@ -88,11 +88,11 @@ std::int64_t import_client(const std::string& file, const std::string& folder) {
                       folder + ": assessee " + number_of(assessee_no) + " is there already");
     for (const TableRule& table : store_tables())
         if (find_column(table, "AssesseeNo")) copy_rows_in(imported.store(), stores, table);
-    write_working_copies(folder, parts);
+    const std::vector<std::string> copies = write_working_copies(folder, parts);
     try {
         stores.commit();
     } catch (...) {
-        remove_working_copies(folder, parts);
+        remove_files(copies);
         throw;
     }
     return assessee_no;

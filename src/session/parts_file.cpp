@@ -37,9 +37,13 @@ PartsFile::PartsFile(std::string path, Kind kind) : PartsFile() { // so that a f
     if (::lstat(path_.c_str(), &found) == 0) throw_file_fault(path_, EEXIST);
     beside_journal_ = path_ + ".part-journal";
     beside_ = path_ + ".part";
-    const int descriptor = ::open(beside_.c_str(), O_RDWR | O_CREAT | O_TRUNC | O_CLOEXEC, shared_file_mode);
+    // Of a run that was killed. It may be a finished file under both names, and so is not written into.
+    ::unlink(beside_journal_.c_str());
+    ::unlink(beside_.c_str());
+    const int descriptor = ::open(beside_.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, shared_file_mode);
     if (descriptor < 0) throw_file_fault(beside_, errno);
     (void)::fchmod(descriptor, shared_file_mode);
+    file_number_ = ::fstat(descriptor, &found) == 0 ? found.st_ino : 0;
     ::close(descriptor);
     store_ = std::make_unique<OpenStore>(beside_);
     store_->run("BEGIN");
@@ -91,6 +95,9 @@ std::map<std::string, std::string> PartsFile::parts() {
 void PartsFile::finish() {
     store_->run("COMMIT");
     store_.reset();
+    struct stat found {};
+    if (::stat(beside_.c_str(), &found) != 0) throw_file_fault(beside_, errno);
+    if (found.st_ino != file_number_) throw_file_fault(path_, EEXIST); // another program makes it too
     if (::link(beside_.c_str(), path_.c_str()) != 0) throw_file_fault(path_, errno);
     sync_folder_of(path_);
 }
@@ -108,25 +115,28 @@ std::map<std::string, std::string> working_copies(const std::string& folder, con
     return parts;
 }
 
-void write_working_copies(const std::string& folder, const std::map<std::string, std::string>& parts) {
+std::vector<std::string> write_working_copies(const std::string& folder,
+                                              const std::map<std::string, std::string>& parts) {
     const std::filesystem::path below = std::filesystem::path(folder) / copies_folder;
-    auto next = parts.begin();
+    std::vector<std::string> made;
     try {
-        for (; next != parts.end(); ++next) {
-            if (!is_copy_name(next->first)) continue;
+        for (const auto& [name, content] : parts) {
+            if (!is_copy_name(name)) continue;
             make_folder(below.string());
-            write_new_file((std::filesystem::path(folder) / next->first).string(), next->second,
-                           shared_file_mode);
+            make_room(made);
+            std::string file = (std::filesystem::path(folder) / name).string();
+            if (write_missing_file(file, content, shared_file_mode)) made.push_back(std::move(file));
         }
     } catch (...) {
-        remove_working_copies(folder, {parts.begin(), next});
+        remove_files(made);
         throw;
     }
+    return made;
 }
 
-void remove_working_copies(const std::string& folder, const std::map<std::string, std::string>& parts) {
-    for (const auto& [name, content] : parts)
-        if (is_copy_name(name)) ::unlink((std::filesystem::path(folder) / name).c_str());
+void remove_files(const std::vector<std::string>& files) {
+    for (const std::string& each : files)
+        ::unlink(each.c_str());
 }
 
 } // namespace levora::session

@@ -4,6 +4,9 @@
 
 #include <map>
 #include <string>
+#include <vector>
+
+#include <sys/types.h>
 
 namespace levora::session {
 
@@ -33,15 +36,17 @@ private:
     std::string path_;
     std::string beside_; // empty when opened for reading
     std::string beside_journal_;
+    ino_t file_number_ = 0;
     std::unique_ptr<OpenStore> store_;
 };
 
 // The working copies of a folder, as parts "ITR/WT 17 2014-2015": all of them, or an assessee's.
 std::map<std::string, std::string> working_copies(const std::string& folder,
                                                   const std::string& start = "WT ");
-// Writes them into a folder that has none of these names: all or, with a Failure, none.
-void write_working_copies(const std::string& folder, const std::map<std::string, std::string>& parts);
-// Takes back what the call above has written.
-void remove_working_copies(const std::string& folder, const std::map<std::string, std::string>& parts);
+// Writes them into a folder where none of these names has another content: all or, with a Failure, none.
+// The files that it made; the others stood there since an earlier run was broken off.
+std::vector<std::string> write_working_copies(const std::string& folder,
+                                              const std::map<std::string, std::string>& parts);
+void remove_files(const std::vector<std::string>& files);
 
 } // namespace levora::session

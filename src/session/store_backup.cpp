@@ -54,6 +54,18 @@ void check_image(const std::string& name, const std::string& image) {
     if (verdict != "ok") throw Failure(error_number::path_access, "the backup of " + name + " is damaged");
 }
 
+// A restoring that was killed has left some of the stores, as they are in the backup: those are no
+// hindrance to the next. All of them, or another one, are a folder at work.
+void refuse_stores_in_use(const std::map<std::string, const std::string*>& images) {
+    struct stat found {};
+    std::size_t there = 0;
+    for (const auto& [path, image] : images) {
+        if (::lstat(path.c_str(), &found) != 0) continue;
+        if (++there == images.size() || !S_ISREG(found.st_mode) || read_whole_file(path) != *image)
+            throw Failure(error_number::path_access, path + ": there is a store already");
+    }
+}
+
 } // namespace
 
 void back_up_folder(const std::string& folder, const std::string& file, const WorkTold& told) {
@@ -75,7 +87,6 @@ void back_up_folder(const std::string& folder, const std::string& file, const Wo
 void restore_folder(const std::string& file, const std::string& folder, const WorkTold& told) {
     const std::map<std::string, std::string> parts = PartsFile::open(file, PartsFile::Kind::backup).parts();
     std::map<std::string, const std::string*> images;
-    struct stat found {};
     int done = 0;
     const auto tell = [&](const std::string& path) {
         if (told) told(path, done++, 2 * static_cast<int>(std::size(all_stores))); // looked at, then written
@@ -87,22 +98,20 @@ void restore_folder(const std::string& file, const std::string& folder, const Wo
         if (part == parts.end())
             throw Failure(error_number::path_access, file + ": " + path + " is not in it");
         check_image(part->first, part->second);
-        if (::lstat(path.c_str(), &found) == 0)
-            throw Failure(error_number::path_access, path + ": there is a store already");
         images.emplace(path, &part->second);
     }
+    refuse_stores_in_use(images);
     make_folder(folder);
-    write_working_copies(folder, parts);
-    auto next = images.begin();
+    std::vector<std::string> made = write_working_copies(folder, parts);
     try {
-        for (; next != images.end(); ++next) {
-            tell(next->first);
-            write_new_file(next->first, *next->second, shared_file_mode);
+        for (const auto& [path, image] : images) {
+            tell(path);
+            std::string file = path;
+            make_room(made);
+            if (write_missing_file(path, *image, shared_file_mode)) made.push_back(std::move(file));
         }
     } catch (...) {
-        for (auto made = images.begin(); made != next; ++made)
-            ::unlink(made->first.c_str());
-        remove_working_copies(folder, parts);
+        remove_files(made);
         throw;
     }
 }

@@ -17,6 +17,8 @@ namespace levora::session {
 
 namespace {
 
+const std::string suffix_beside = ".writing";
+
 class OpenFile {
 public:
     // `path` is what a fault names.
@@ -87,7 +89,7 @@ public:
     }
 
 private:
-    explicit FileBeside(const std::string& path) : path_(path), beside_(path + ".writing") {}
+    explicit FileBeside(const std::string& path) : path_(path), beside_(path + suffix_beside) {}
 
     // Another program may have put it in place meanwhile, and what a colleague's program left when it was
     // killed can't be given this file's mode: it makes way.
@@ -96,7 +98,8 @@ private:
         struct stat open {};
         file_->check(::fstat(file_->descriptor(), &open) == 0);
         if (::stat(beside_.c_str(), &named) != 0 || named.st_ino != open.st_ino) return false;
-        if (open.st_uid == ::geteuid()) return true;
+        const bool shared = open.st_nlink > 1; // a kill has left the finished file under both names
+        if (open.st_uid == ::geteuid() && !shared) return true;
         file_->check(::unlink(beside_.c_str()) == 0);
         return false;
     }
@@ -139,6 +142,18 @@ void replace_whole_file(const std::string& path, std::string_view content, mode_
 
 void write_in_place(const std::string& path, std::string_view content) {
     OpenFile(path, path, O_WRONLY).write(content);
+}
+
+bool write_missing_file(const std::string& path, std::string_view content, mode_t mode) {
+    struct stat found {};
+    const bool may_be_it = ::stat(path.c_str(), &found) == 0 && S_ISREG(found.st_mode) &&
+                           static_cast<std::size_t>(found.st_size) == content.size();
+    if (!may_be_it || read_whole_file(path) != content) {
+        write_new_file(path, content, mode);
+        return true;
+    }
+    if (::lstat((path + suffix_beside).c_str(), &found) == 0) const FileBeside left_over(path, mode);
+    return false;
 }
 
 void write_new_file(const std::string& path, std::string_view content, mode_t mode) {

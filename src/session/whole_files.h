@@ -16,6 +16,9 @@ void replace_whole_file(const std::string& path, std::string_view content, mode_
 void write_in_place(const std::string& path, std::string_view content);
 // The whole content as a new file, but never over a file that is there (75).
 void write_new_file(const std::string& path, std::string_view content, mode_t mode);
+// The same, unless a file of just this content is there: what a run that was killed has left. True when
+// it was written.
+bool write_missing_file(const std::string& path, std::string_view content, mode_t mode);
 
 // The folder's own entry of a file reaches the disk.
 void sync_folder_of(const std::string& path);
