@@ -1,6 +1,5 @@
 #include "computation/wealth_sheet.h"
 #include "session/common_services.h"
-#include "session/unread_rows.h"
 
 #include <array>
 #include <string_view>
@@ -104,8 +103,8 @@ void frmWealthMain::SavePrepaidTaxesOnClose() {
 }
 
 void frmWealthMain::save_prepaid(const std::string& deletion, RowSetAtEnd at_end) {
-    if (!prepaid_read_ && ask_over_unread(session_, "frmWealthMain - SavePrepaidTaxes",
-                                          {{"PrePaidTaxes", row_key()}}) != session::OverUnread::save)
+    if (!prepaid_read_ &&
+        !saves_over_unread("frmWealthMain - SavePrepaidTaxes", {{"PrePaidTaxes", row_key()}}))
         return;
     session_.SqlText = deletion;
     session_.TaxDb.execute(session_.SqlText);

@@ -1,6 +1,5 @@
 #include "computation/wealth_sheet.h"
 #include "session/common_services.h"
-#include "session/unread_rows.h"
 #include "widgets/date_text.h"
 
 #include <string_view>
@@ -117,9 +116,8 @@ void frmWealthMain::LoadWealthTaxComputation() {
 }
 
 void frmWealthMain::SaveWealthTaxComputation() {
-    if (!sheet_read_ && ask_over_unread(session_, "frmWealthMain - SaveWealthTaxComputation",
-                                        {{"NetWealthComputation", row_key()}, {"Enclosure", row_key()}}) !=
-                            session::OverUnread::save)
+    if (!sheet_read_ && !saves_over_unread("frmWealthMain - SaveWealthTaxComputation",
+                                           {{"NetWealthComputation", row_key()}, {"Enclosure", row_key()}}))
         return;
     session::procedure(session_, "frmWealthMain - SaveWealthTaxComputation", [this](const auto& attempt) {
         session_.SqlText = "Select * from NetWealthComputation WHERE " + row_key();
@@ -140,7 +138,15 @@ void frmWealthMain::SaveWealthTaxComputation() {
     });
 }
 
+bool frmWealthMain::saves_over_unread(std::string_view procedure,
+                                      const std::vector<session::UnreadTable>& tables) {
+    const session::OverUnread choice = ask_over_unread(session_, procedure, tables);
+    stays_ = stays_ || choice == session::OverUnread::stay;
+    return choice == session::OverUnread::save;
+}
+
 void frmWealthMain::SaveAllComputation() {
+    stays_ = false;
     SaveWealthTaxComputation();
     SavePrepaidTaxes();
 }

@@ -141,6 +141,7 @@ void frmWealthMain::connect_buttons() {
 
 void frmWealthMain::cmdMainExit_Click() {
     SaveAllComputation();
+    if (stays_) return;
     session_.screens.unload(name());
 }
 

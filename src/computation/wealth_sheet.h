@@ -2,12 +2,15 @@
 
 #include "session/grid_sheet.h"
 #include "session/session_state.h"
+#include "session/unread_rows.h"
 #include "widgets/fields.h"
 #include "widgets/grid.h"
 
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace levora::session {
 class Attempt;
@@ -139,6 +142,8 @@ private:
     void save_enclosures(const session::Attempt& attempt);
     void put_prepaid_row(const session::RowSet& rows, int row, const PrepaidLoading& how);
     template <class Step> void load_prepaid(const PrepaidLoading& how, const Step& step);
+    [[nodiscard]] bool saves_over_unread(std::string_view procedure,
+                                         const std::vector<session::UnreadTable>& tables);
     void save_prepaid(const std::string& deletion, RowSetAtEnd at_end);
 
     void sheet_of_active_grid(session::SheetUse use);
@@ -158,6 +163,7 @@ private:
 
     bool sheet_read_ = false;   // all that is stored of it is on the screen
     bool prepaid_read_ = false; //
+    bool stays_ = false;        // a question of the save in hand was dismissed: no exit
 
     int InterestSlideDirection = 0; // 1 opening, 0 closing
     std::uint8_t InterestSlideStep = 0;

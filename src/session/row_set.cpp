@@ -264,9 +264,10 @@ const Value& RowSet::operator[](std::string_view column) const {
     if (state.current >= state.rows.size()) throw Failure(no_current_row, "No current record.");
     const Value& value = state.rows[state.current][at];
     if (state.wrong.contains({state.current, at}))
-        throw Failure(error_number::type_mismatch,
-                      "table \"" + state.table_name + "\", column \"" + std::string(column) + "\": not a " +
-                          std::string(in_words(state.rules[at]->kind)) + ": \"" + value.text() + "\"");
+        throw Failure(error_number::type_mismatch, "table \"" + state.table_name + "\", column \"" +
+                                                       std::string(column) + "\": not a " +
+                                                       std::string(in_words(state.rules[at]->kind)) + ": \"" +
+                                                       value.text().substr(0, 40) + "\"");
     return value;
 }
 

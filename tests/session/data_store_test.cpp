@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <thread>
 
@@ -259,21 +258,10 @@ TEST_F(DataStoreTest, AStatementReachesATableOfAnotherFile) {
     }
 }
 
-TEST_F(DataStoreTest, AStoreThatCannotBeOpenedSaysWhichAndWhy) {
-    const auto opening = [](const std::string& file) {
-        return failure_of([&] {
-            Connection connection;
-            connection.open("Provider=P;Data Source=" + file + ";Jet OLEDB:Database Password=x");
-        });
-    };
-    const std::string& path = folder.path();
-    EXPECT_EQ(opening(path + "/Other.mdb"),
-              "3024 Could not find file '" + path + "/Other.db': No such file or directory.");
-    EXPECT_EQ(opening(path + "/none/LVWTax.mdb"), "76 Path not found: " + path + "/none");
-    std::filesystem::create_directory(path + "/Folder.db");
-    EXPECT_EQ(opening(path + "/Folder.mdb"), "75 " + path + "/Folder.db: Is a directory");
-    std::ofstream(path + "/Foreign.db") << "an old store of another make, long enough to look at";
-    EXPECT_EQ(opening(path + "/Foreign.mdb"), "26 " + path + "/Foreign.db: file is not a database");
+TEST_F(DataStoreTest, AConnectionThatCannotBeOpenedSaysWhy) {
+    Connection connection;
+    EXPECT_EQ(failure_of([&] { connection.open("Data Source=" + folder.path() + "/none/LVWTax.mdb;"); }),
+              "76 Path not found: " + folder.path() + "/none");
     EXPECT_EQ(failure_of([&] { tax.open(folder.connect_string(Store::tax)); }),
               "3705 Operation is not allowed when the object is open.");
 }
