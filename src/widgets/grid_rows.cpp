@@ -74,6 +74,23 @@ double Grid::max_text_width(int column) const {
 
 // --- counts ---
 
+namespace {
+
+template <class Part> void make_room_for_one(std::vector<Part>& parts) {
+    if (parts.size() == parts.capacity()) parts.reserve(2 * parts.size() + 1);
+}
+
+} // namespace
+
+// Memory may run out at any row: a change of the structure first gets all it needs, and is then done whole.
+std::vector<Grid::Cell> Grid::Storage::blank_last_cells() const {
+    std::vector<Cell> cells;
+    cells.reserve(rows.size());
+    for (const Row& row : rows)
+        cells.push_back(blank_like(row.cells.back()));
+    return cells;
+}
+
 void Grid::set_rows(int count) {
     if (count < 1 || count == rows()) return;
     const int before = rows();
@@ -115,11 +132,13 @@ void Grid::add_column() {
     column.header.clear();
     column.hidden = false;
     column.data_count = 0;
+    std::vector<Cell> cells = storage_->blank_last_cells();
+    make_room_for_one(storage_->columns);
+    for (Row& row : storage_->rows)
+        make_room_for_one(row.cells);
     storage_->columns.push_back(std::move(column));
-    for (Row& row : storage_->rows) {
-        Cell cell = Storage::blank_like(row.cells.back());
-        row.cells.push_back(std::move(cell));
-    }
+    for (std::size_t i = 0; i < cells.size(); ++i)
+        storage_->rows[i].cells.push_back(std::move(cells[i]));
     notify(Aspect::structure);
 }
 
@@ -183,10 +202,11 @@ void Grid::delete_rows(int row, int count) {
     (void)at(1, row);
     count = std::min(count, rows() - row + 1);
     for (int i = 0; i < count; ++i) {
+        const bool is_last = row == rows();
+        const Row* model = is_last && row == 1 ? nullptr : &storage_->rows.end()[is_last ? -2 : -1];
+        Row fresh = storage_->blank_row(model);
         storage_->rows.erase(storage_->rows.begin() + (row - 1));
         shift_for_delete(storage_->cell_formulas, row);
-        const Row* last = storage_->rows.empty() ? nullptr : &storage_->rows.back();
-        Row fresh = storage_->blank_row(last);
         storage_->rows.push_back(std::move(fresh));
     }
     storage_->count_column_data();
@@ -200,14 +220,15 @@ void Grid::delete_column(int column) {
     Storage::Column fresh = storage_->columns.back();
     fresh.header.clear();
     fresh.data_count = 0;
+    std::vector<Cell> cells = storage_->blank_last_cells();
     storage_->columns.erase(storage_->columns.begin() + (column - 1));
     storage_->columns.push_back(std::move(fresh));
-    for (Row& row : storage_->rows) {
-        Cell cell = Storage::blank_like(row.cells.back());
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+        Row& row = storage_->rows[i];
         const auto deleted = row.cells.begin() + (column - 1);
         if (deleted->data) --row.data_count;
         row.cells.erase(deleted);
-        row.cells.push_back(std::move(cell));
+        row.cells.push_back(std::move(cells[i]));
     }
     recompute_all();
     notify(Aspect::structure);

@@ -76,6 +76,8 @@ struct Grid::Storage {
     static Cell blank_like(const Cell& model);
     [[nodiscard]] Cell blank_of(const Column& column) const;
     [[nodiscard]] Row blank_row(const Row* model) const;
+    // One for each row, for a column to come after the last.
+    [[nodiscard]] std::vector<Cell> blank_last_cells() const;
     void count_column_data();
 };
 
