@@ -200,10 +200,12 @@ private:
         std::string address = grid.text(property_column::flat, row);
         for (const int column : address_columns)
             if (const std::string& part = grid.text(column, row); !part.empty()) address += "-" + part;
-        report_.set_text(head.cost, number_text(val(grid.text(property_column::cost, row))));
+        const auto leading_number = [&](int column) { return number_text(val(grid.text(column, row))); };
+        report_.set_text(head.cost, leading_number(property_column::cost));
         report_.set_text(head.description, grid.text(property_column::description, row));
         report_.set_text(head.address, address);
-        report_.set_text(head.survey, grid.text(property_column::survey, row));
+        // Wanted: survey and plot numbers go as numbers too; "44/2" prints as 44, and none as 0.
+        report_.set_text(head.survey, leading_number(property_column::survey));
     }
 
     session::Session& session_;

@@ -33,8 +33,9 @@ TEST_F(ReportsTest, FormBBShowsTheReturnObjectByObject) {
               "mskVerificationAY: 2014-2015\ntxtVerificationCapacity: Self\ntxtVerificationPlace: Pune\n"
               "mskVerificationDate: 20/08/2014\ntxtOPR11: Farm\ntxtOPR12: 10\n"
               "txtOPR21: 3C-Karad-Telangana-415110\n" // empty parts leave no dash, the country is passed over
-              "txtOPR31: 44/2\ntxtOPR71: Shop\ntxtOPR72: 90\n"
-              "txtOPR81: 12A-Mall-Ring Road-Camp-Pune-Maharashtra-411002\ntxtOPR91: 9B\n"
+              "txtOPR31: 44\ntxtOPR71: Shop\ntxtOPR72: 90\n"
+              "txtOPR81: 12A-Mall-Ring Road-Camp-Pune-Maharashtra-411002\ntxtOPR91: 9\n" // survey 44/2 and 9B
+                                                                                         // as numbers
               "txtMovTotalDeposit: 11\ntxtMovAmtBondInvestment: 12\ntxtMovAmtPostal: 13\n"
               "txtMovAmtFirm: 14\ntxtMovAmtOther: 15\n"
               "txtTotalValOtherProperty: 165\n" // 65 and the costs of 100
