@@ -128,7 +128,7 @@ void draw_digits(Fonts& fonts, const QRectF& box, const Element& element, const 
 // The figure at the right edge, the bar on its track before it.
 void draw_bar(Fonts& fonts, const QRectF& box, const Element& element, const QString& amount, double share,
               Marks& marks) {
-    constexpr double figure_part = 0.36; // of the box
+    constexpr double figure_part = 0.48; // of the box: room for fifteen digits with their commas
     constexpr double thickness = 1.8;
     constexpr double thinnest = 0.4; // a small amount beside a large one can still be seen
     const QRectF track(box.left(), box.center().y() - thickness / 2, box.width() * (1 - figure_part),

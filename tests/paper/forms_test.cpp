@@ -259,10 +259,19 @@ TEST_F(PaperTest, TheStatementStaysOnItsPageWithAllItsWords) {
     fill_all(report, "x", "12345678");
     for (const char* object : {"Assessee_Name", "txtRepAddress1", "txtRepAddress2", "txtRepCity"})
         report.set_text(object, long_words + " end-of-" + object);
+    report.set_text("barNetWealth", "999999999999999");
     const Pages pages(report);
     EXPECT_EQ(pages.count(), 1);
     for (const char* object : {"Assessee_Name", "txtRepAddress1", "txtRepAddress2", "txtRepCity"})
         EXPECT_EQ(pages.find(QStringLiteral("end-of-") + QLatin1String(object)).size(), 1U) << object;
+    // The longest figure stands whole beside its bar.
+    Fonts fonts;
+    int whole = 0;
+    const auto laid_out = lay_out(fonts, report);
+    for (const Mark& mark : laid_out.front())
+        if (const auto* text = std::get_if<TextMark>(&mark); text && text->text == u"99,99,99,99,99,99,999")
+            whole += text->clip ? 0 : 1;
+    EXPECT_EQ(whole, 1);
 }
 
 } // namespace
