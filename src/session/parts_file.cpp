@@ -70,9 +70,14 @@ PartsFile PartsFile::open(const std::string& path, Kind kind) {
     return result;
 }
 
+bool PartsFile::stands_beside() const {
+    struct stat found {};
+    return !beside_.empty() && ::lstat(beside_.c_str(), &found) == 0 && found.st_ino == file_number_;
+}
+
 PartsFile::~PartsFile() {
     store_.reset();
-    if (beside_.empty()) return;
+    if (!stands_beside()) return;
     ::unlink(beside_.c_str());
     ::unlink(beside_journal_.c_str()); // a failing disk may have left it
 }
@@ -95,9 +100,7 @@ std::map<std::string, std::string> PartsFile::parts() {
 void PartsFile::finish() {
     store_->run("COMMIT");
     store_.reset();
-    struct stat found {};
-    if (::stat(beside_.c_str(), &found) != 0) throw_file_fault(beside_, errno);
-    if (found.st_ino != file_number_) throw_file_fault(path_, EEXIST); // another program makes it too
+    if (!stands_beside()) throw_file_fault(path_, EEXIST); // another program makes it too
     if (::link(beside_.c_str(), path_.c_str()) != 0) throw_file_fault(path_, errno);
     sync_folder_of(path_);
 }

@@ -32,6 +32,7 @@ public:
 
 private:
     PartsFile() = default;
+    [[nodiscard]] bool stands_beside() const; // and is the file made here, not another program's
 
     std::string path_;
     std::string beside_; // empty when opened for reading

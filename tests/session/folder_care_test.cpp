@@ -1,6 +1,7 @@
 #include "session/client_file.h"
 #include "session/data_folder.h"
 #include "session/faulty_disk.h"
+#include "session/parts_file.h"
 #include "session/store_backup.h"
 #include "session/store_check.h"
 #include "session/whole_files.h"
@@ -328,6 +329,16 @@ TEST_F(FolderCareTest, AFileThatAKillLeftUnderBothItsNamesIsNotWrittenInto) {
     const std::string last = read_whole_file(file + ".last");
     back_up_folder(folder.path(), file);
     EXPECT_TRUE(read_whole_file(file + ".last") == last);
+}
+
+TEST_F(FolderCareTest, OfTwoBackupsIntoOneFileTheFirstDoneStands) {
+    {
+        PartsFile slow(file, PartsFile::Kind::backup);
+        back_up_folder(folder.path(), file);
+        EXPECT_NE(failure_of([&] { slow.finish(); }), "none");
+    }
+    EXPECT_EQ(failure_of([&] { restore_folder(file, elsewhere.path() + "/new"); }), "none");
+    EXPECT_FALSE(std::filesystem::exists(file + ".part"));
 }
 
 TEST(CreateDataFolderTest, LeavesWhatIsThereAlone) {
