@@ -18,6 +18,8 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include <memory>
+
 namespace levora::desktop {
 
 namespace {
@@ -97,17 +99,25 @@ void keep_edits(ScreenWindow& window, const session::Session& session,
     QObject::connect(quiet, &QTimer::timeout, &window, [&window, &session] {
         if (window.attached()) KeptEdits::write(path_of(window, session), window.history().edits());
     });
-    const auto forget = [&window, &session] {
-        if (!window.attached()) return;
+    // A save that ended with an error report has them at best in part.
+    auto given_up = std::make_shared<int>(session.given_up());
+    const auto forget = [&window, &session, given_up] {
+        if (!window.attached() || *given_up != session.given_up()) return;
         window.forget_edits();
         QFile::remove(path_of(window, session));
     };
     // A save has them in the store, another year's sheet has put them away.
     for (const char* name : {"cmdSave1", "cmdSave"})
-        if (auto* button = window.findChild<QPushButton*>(QLatin1String(name)))
+        if (auto* button = window.findChild<QPushButton*>(QLatin1String(name))) {
+            QObject::connect(button, &QPushButton::pressed, &window,
+                             [&session, given_up] { *given_up = session.given_up(); });
             QObject::connect(button, &QPushButton::clicked, &window, forget);
+        }
     if (auto* year = window.findChild<QComboBox*>(QStringLiteral("cboFY")))
-        QObject::connect(year, &QComboBox::activated, &window, forget);
+        QObject::connect(year, &QComboBox::activated, &window, [&session, given_up, forget] {
+            *given_up = session.given_up();
+            forget();
+        });
     QObject::connect(&window, &ScreenWindow::detaching, &window,
                      [&window, &session] { QFile::remove(path_of(window, session)); });
     auto* first = new QTimer(&window); // until the window stands in front, then once

@@ -104,6 +104,7 @@ bool Session::take_back_all() noexcept {
 }
 
 void Session::give_up_after(const Failure& error) noexcept {
+    ++given_up_;
     for (Connection* each : {&TaxDb, &AssesseeDb, &ITDb, &FormsDb})
         if (error.number == error_number::out_of_memory || each->has_loss()) each->give_up();
 }

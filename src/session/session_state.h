@@ -97,6 +97,8 @@ public:
     // The report of an error was dismissed. Where it cost rows, nothing of this event goes down in that
     // store; where memory had run out, in none.
     void give_up_after(const Failure& error) noexcept;
+    // How many reports have been dismissed so far: whoever started a save learns that it is not whole.
+    [[nodiscard]] int given_up() const { return given_up_; }
 
     // What a screen's preview button asks of the reports, by the report's name: "Challan282", "FormBB",
     // "RepWealthTax". Reports lie above the screens and register themselves here.
@@ -105,6 +107,7 @@ public:
     std::function<void(const std::shared_ptr<document::Report>&)> print_report;
 
 private:
+    int given_up_ = 0;
     void commit_each(void (Connection::*commit)());
     void end_event() noexcept;
 

@@ -73,4 +73,14 @@ TEST_F(KeptEditsTest, ASaveAndAnOrderlyEndLeaveNothingBehind) {
     EXPECT_TRUE(kept().isEmpty());
 }
 
+TEST_F(KeptEditsTest, ASaveThatEndsWithAnErrorReportKeepsThem) {
+    widgets::Grid& enclosures = control<widgets::Grid>("frmWealthMain", "sprEnclosure");
+    enclosures.type(1, 1, "Valuation");
+    enclosures.type(1, 2, "a second row, which has no place in the store");
+    type_debt("777");
+    QTest::keyClick(&window("frmWealthMain"), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(kept().size(), 1);
+    EXPECT_TRUE(window("frmWealthMain").history().can_undo());
+}
+
 } // namespace levora::desktop::testing
