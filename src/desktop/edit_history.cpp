@@ -17,11 +17,11 @@ constexpr std::size_t longest_history = 1000;
 
 void EditHistory::add(Edit edit) {
     if (replaying_ || edit.before == edit.after) return;
-    undone_.clear();
     if (depth_ > 0) {
         done_.back().push_back(std::move(edit));
         return;
     }
+    undone_.clear();
     if (edit.column == 0 && run_open_ && !done_.empty() && done_.back().size() == 1) {
         Edit& last = done_.back().front();
         if (last.control == edit.control && last.column == 0 && last.after == edit.before) {
@@ -41,14 +41,17 @@ void EditHistory::begin_step() {
 
 bool EditHistory::end_step() {
     if (--depth_ > 0 || done_.empty()) return false;
-    const bool empty = done_.back().empty();
-    if (empty) done_.pop_back();
-    return !empty;
+    if (done_.back().empty()) {
+        done_.pop_back();
+        return false;
+    }
+    before_step_ = std::exchange(undone_, {});
+    return true;
 }
 
 void EditHistory::take_back(widgets::Form& form, const Told& told) {
     undo(form, told);
-    undone_.pop_back();
+    undone_ = std::move(before_step_);
 }
 
 std::vector<Edit> EditHistory::edits() const {

@@ -34,7 +34,7 @@ public:
     void begin_step();
     // False when nothing was done in the step, or a larger one is still open.
     bool end_step();
-    // Takes the last step back for good.
+    // Takes the step that has just ended back for good: what could be done again before it still can be.
     void take_back(widgets::Form& form, const Told& told);
     void clear();
 
@@ -63,6 +63,7 @@ private:
 
     std::vector<Step> done_;
     std::vector<Step> undone_;
+    std::vector<Step> before_step_; // what the last step put out of reach
     int depth_ = 0;
     bool run_open_ = false;
     bool replaying_ = false;

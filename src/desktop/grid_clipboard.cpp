@@ -68,7 +68,7 @@ std::vector<int> GridView::shown_columns(int from, int to) const {
     return columns;
 }
 
-void GridView::write_cells(const QString& what, const std::vector<CellText>& cells, int without_place) {
+bool GridView::write_cells(const QString& what, const std::vector<CellText>& cells, int without_place) {
     const Range chosen = selected_range();
     int locked = 0;
     int refused = 0;
@@ -108,6 +108,7 @@ void GridView::write_cells(const QString& what, const std::vector<CellText>& cel
                      counted(refused, "value did not fit its cell.", "values did not fit their cells.") +
                      counted(without_place, "value found no cell.", "values found no cell."))
                         .trimmed());
+    return !cancelled;
 }
 
 void GridView::copy() const {
@@ -138,13 +139,14 @@ void GridView::cut() {
 }
 
 // Rows for what comes are added as by moving on past the last cell, where the grid grows that way.
-void GridView::grow_to(int rows) {
+bool GridView::grow_to(int rows) {
     LongWork work(this, tr("Adding rows"), rows);
     while (grid_ && grid_->rows() < rows) {
         const int before = grid_->rows();
-        if (!acts_->act([this] { grid_->advance(); }) || grid_->rows() == before || !work.go_on(before))
-            return;
+        if (!acts_->act([this] { grid_->advance(); }) || grid_->rows() == before) return true;
+        if (!work.go_on(before)) return false;
     }
+    return true;
 }
 
 void GridView::paste() {
@@ -164,10 +166,18 @@ void GridView::paste() {
     const int down = chosen_height % height == 0 ? std::max(1, chosen_height / height) : 1;
 
     const int last_row = range.top + height * down - 1;
-    if (last_row > grid_->rows()) {
-        grow_to(last_row);
-        if (!grid_) return;
+    const int rows_before = grid_->rows();
+    // Rows that a cancelled paste has added at the end go again.
+    const auto give_rows_back = [this, rows_before] {
+        if (grid_ && grid_->rows() > rows_before)
+            acts_->act([this, rows_before] { grid_->set_rows(rows_before); });
+    };
+    if (last_row > rows_before && !grow_to(last_row)) {
+        give_rows_back();
+        acts_->tell(tr("Cancelled: the cells are as they were."));
+        return;
     }
+    if (!grid_) return;
     const std::vector<int> columns = shown_columns(range.left, grid_->columns());
     std::vector<CellText> cells;
     int without_place = 0;
@@ -186,7 +196,7 @@ void GridView::paste() {
     if (!columns.empty())
         range.right = columns[std::min(columns.size(), static_cast<std::size_t>(width * across)) - 1];
     select_range(range);
-    write_cells(tr("Pasting cells"), cells, without_place);
+    if (!write_cells(tr("Pasting cells"), cells, without_place)) give_rows_back();
 }
 
 void GridView::fill_down() {

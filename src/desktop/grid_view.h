@@ -47,6 +47,8 @@ public:
     bool would_accept(const std::string& text);
     // Presses a button cell or turns a tick; false for cells of other kinds.
     bool press_cell(int column, int row);
+    // From a label on to the first cell of its row that can be written in.
+    void leave_label();
     // A key outside edit mode, by its name.
     void press(const std::string& key);
     [[nodiscard]] const QString& first_typed() const { return first_typed_; }
@@ -93,9 +95,10 @@ private:
     void select_range(const Range& range);
     // Columns from 1 that are not hidden.
     [[nodiscard]] std::vector<int> shown_columns(int from, int to) const;
-    // Writes the cells as one step of undo; `without_place` of what was given found no cell.
-    void write_cells(const QString& what, const std::vector<CellText>& cells, int without_place = 0);
-    void grow_to(int rows);
+    // Writes the cells as one step of undo; `without_place` of what was given found no cell. False when
+    // cancelled: nothing is written then.
+    bool write_cells(const QString& what, const std::vector<CellText>& cells, int without_place = 0);
+    bool grow_to(int rows);
     bool command_key(const QKeyEvent& event);
     bool selection_key(const QKeyEvent& event);
     void type_character(const QString& typed);
