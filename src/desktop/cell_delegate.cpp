@@ -1,17 +1,19 @@
 #include "desktop/cell_delegate.h"
 
 #include "desktop/grid_view.h"
+#include "desktop/look.h"
 #include "desktop/qt_text.h"
 #include "widgets/grid.h"
 
-#include <QApplication>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QRegularExpressionValidator>
 #include <QTimer>
+#include <QToolTip>
 
 namespace levora::desktop {
 
@@ -34,15 +36,22 @@ QString input_mask(const std::string& mask) {
     return result + QStringLiteral(";_");
 }
 
-QStyleOptionButton button_option(const QStyleOptionViewItem& option, const QString& caption) {
-    QStyleOptionButton button;
-    button.initFrom(option.widget);
-    button.rect = option.rect.adjusted(2, 1, -2, -1);
-    button.text = caption;
-    button.state = QStyle::State_Raised;
-    if (option.state & QStyle::State_Enabled) button.state |= QStyle::State_Enabled;
-    if (option.state & QStyle::State_MouseOver) button.state |= QStyle::State_MouseOver;
-    return button;
+// As flat as the buttons beside the grid.
+void draw_button(QPainter& painter, const QStyleOptionViewItem& option, const QString& caption) {
+    const QPalette& palette = option.palette;
+    const bool enabled = option.state & QStyle::State_Enabled;
+    const bool hovered = enabled && option.state & QStyle::State_MouseOver;
+    const QRectF shape = QRectF(option.rect).adjusted(2.5, 1.5, -2.5, -1.5);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(palette.color(hovered ? QPalette::Highlight : QPalette::Mid));
+    painter.setBrush(palette.brush(enabled ? QPalette::Button : QPalette::Window));
+    painter.drawRoundedRect(shape, 3, 3);
+    painter.setPen(palette.color(enabled ? QPalette::Normal : QPalette::Disabled, QPalette::ButtonText));
+    painter.setFont(option.font);
+    painter.drawText(option.rect.adjusted(4, 0, -4, 0), Qt::AlignCenter,
+                     option.fontMetrics.elidedText(caption, Qt::ElideRight, option.rect.width() - 8));
+    painter.restore();
 }
 
 } // namespace
@@ -55,6 +64,7 @@ QWidget* CellDelegate::list_editor(QWidget* parent, int column, int row) const {
     list->setEditable(design.editable);
     for (const std::string& item : design.items)
         list->addItem(to_qt(item));
+    space_items(*list);
     auto* self = const_cast<CellDelegate*>(this);
     connect(list, &QComboBox::activated, self, [self, list] {
         emit self->commitData(list);
@@ -163,11 +173,9 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                           ground.isValid() ? ground.value<QBrush>() : option.palette.brush(QPalette::Base));
     }
     cell.state &= ~QStyle::State_HasFocus;
-    const QStyle* style = option.widget ? option.widget->style() : QApplication::style();
     if (kind == CellKind::button) {
         painter->fillRect(cell.rect, option.palette.brush(QPalette::Base));
-        const QStyleOptionButton button = button_option(cell, index.data(Qt::DisplayRole).toString());
-        style->drawControl(QStyle::CE_PushButton, &button, painter);
+        draw_button(*painter, cell, index.data(Qt::DisplayRole).toString());
     } else {
         QStyledItemDelegate::paint(painter, cell, index);
     }
@@ -197,6 +205,17 @@ bool CellDelegate::editorEvent(QEvent* event, QAbstractItemModel*, const QStyleO
     if (event->type() != QEvent::MouseButtonRelease || !view_.grid()) return false;
     if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) return false;
     return view_.press_cell(index.column() + 1, index.row() + 1);
+}
+
+bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) {
+    constexpr int padding = 8;
+    const QString shown = index.data(Qt::DisplayRole).toString();
+    if (event->type() != QEvent::ToolTip || !index.data(Qt::ToolTipRole).toString().isEmpty() ||
+        option.fontMetrics.horizontalAdvance(shown) + padding <= option.rect.width())
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    QToolTip::showText(event->globalPos(), tip_text(shown), view->viewport(), option.rect);
+    return true;
 }
 
 bool CellDelegate::eventFilter(QObject* object, QEvent* event) {

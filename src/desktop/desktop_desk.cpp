@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QDate>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
@@ -119,8 +120,9 @@ std::optional<Answer> DesktopDesk::show_message(const widgets::MessageBox& box) 
 std::optional<std::string> DesktopDesk::choose_file(const widgets::FileDialog& dialog) {
     // A told folder of another platform is not there: the person's documents take its place.
     const QString told = to_qt(dialog.folder);
-    const QString folder =
+    QString folder =
         QFileInfo(told).isDir() ? told : QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (!QFileInfo(folder).isDir()) folder = QDir::homePath(); // else the dialog takes it for a file's name
     QFileDialog shown(QApplication::activeWindow(), to_qt(dialog.title), folder, name_filters(dialog.filter));
     const bool saves = dialog.kind == widgets::FileDialogKind::save;
     shown.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);

@@ -12,6 +12,7 @@
 #include <QRegularExpression>
 #include <QSignalBlocker>
 #include <QStandardItemModel>
+#include <QStyle>
 #include <QTreeView>
 #include <QTreeWidget>
 
@@ -163,9 +164,17 @@ private:
             for (const std::string& item : list_.items())
                 items += to_qt(item);
             box_->addItems(items);
+            show_arrow(!items.empty());
         }
         showing_ = was_showing;
         show_content();
+    }
+    // What is only typed into shows no arrow, as no list would open.
+    void show_arrow(bool opens) {
+        if (box_->property("listless").toBool() == !opens) return;
+        box_->setProperty("listless", !opens);
+        box_->style()->unpolish(box_);
+        box_->style()->polish(box_);
     }
     void show_state() override {
         Binding::show_state();
@@ -280,7 +289,10 @@ private:
             QStringList cells;
             for (int column = 0; column < list_.columns(); ++column)
                 cells += to_qt(list_.cell(row, column));
-            rows_->addTopLevelItem(new QTreeWidgetItem(cells));
+            auto* item = new QTreeWidgetItem(cells);
+            for (int column = 0; column < list_.columns(); ++column)
+                item->setToolTip(column, tip_text(cells[column])); // a column may be narrower
+            rows_->addTopLevelItem(item);
         }
         for (int column = 0; column < list_.columns(); ++column) {
             const auto at = static_cast<std::size_t>(column);

@@ -296,6 +296,16 @@ void GridView::start_edit(const QString& first_typed) {
         if (list->isVisible() && !list->isEditable()) list->showPopup();
 }
 
+void GridView::leave_label() {
+    if (!grid_ || !is_label_column(grid_->active_column())) return;
+    const int row = grid_->active_row();
+    for (int column = grid_->active_column() + 1; column <= grid_->columns(); ++column)
+        if (!grid_->hidden(column) && !grid_->cell_locked(column, row)) {
+            setCurrentIndex(model_->index(row - 1, column - 1));
+            return;
+        }
+}
+
 void GridView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint) {
     if (grid_) grid_->set_edit_mode(false);
     QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);

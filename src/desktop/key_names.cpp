@@ -46,6 +46,14 @@ std::string base_name(int key) {
 
 } // namespace
 
+QString tip_text(const QString& words) {
+    constexpr qsizetype one_line = 90;
+    // Only rich text is broken into lines.
+    return QStringLiteral("<p style='white-space:%1'>%2</p>")
+        .arg(words.size() <= one_line ? QStringLiteral("pre") : QStringLiteral("normal"),
+             words.toHtmlEscaped());
+}
+
 QString plain_words(std::string_view caption) {
     QString words = to_qt(caption);
     words.remove(QLatin1Char('&'));

@@ -3,8 +3,11 @@
 #include "desktop/resources.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFile>
+#include <QListView>
 #include <QPalette>
+#include <QStyledItemDelegate>
 #include <QStyleFactory>
 
 namespace levora::desktop {
@@ -32,6 +35,8 @@ constexpr Tint tints[] = {
     {QPalette::ToolTipText, 0xffffffff, 0xfff2f4f7},
     {QPalette::PlaceholderText, 0xff7b8494, 0xff8c95a3},
     {QPalette::Link, 0xff1f6f8b, 0xff6cc0dc},
+    // Quiet words: a style sheet knows no name for the role of placeholders.
+    {QPalette::LinkVisited, 0xff616b7a, 0xff9ba4b2},
     {QPalette::Light, 0xffffffff, 0xff3a404a},
     {QPalette::Midlight, 0xffe3e6eb, 0xff343941},
     {QPalette::Mid, 0xffc5cad3, 0xff4a515c},
@@ -65,7 +70,20 @@ void apply_look(QApplication& application, Shade shade) {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(own_palette(dark));
     QFile sheet(QStringLiteral(":/look.qss"));
-    if (sheet.open(QIODevice::ReadOnly)) application.setStyleSheet(QString::fromUtf8(sheet.readAll()));
+    if (!sheet.open(QIODevice::ReadOnly)) return;
+    // A style sheet knows no names for the colours of tips: they are told here, or tips could not be read.
+    const QPalette palette = QApplication::palette();
+    application.setStyleSheet(
+        QString::fromUtf8(sheet.readAll()) +
+        QStringLiteral("QToolTip { border: 0; padding: 4px 6px; background: %1; color: %2; }")
+            .arg(palette.color(QPalette::ToolTipBase).name(), palette.color(QPalette::ToolTipText).name()));
+}
+
+void space_items(QComboBox& list) {
+    // Its own delegate takes no room and no padding from a style sheet.
+    if (!qobject_cast<QListView*>(list.view()) || qobject_cast<QStyledItemDelegate*>(list.itemDelegate()))
+        return;
+    list.setItemDelegate(new QStyledItemDelegate(&list));
 }
 
 QColor locked_ground(const QPalette& palette) {

@@ -5,6 +5,7 @@
 #include <QColor>
 
 class QApplication;
+class QComboBox;
 class QPalette;
 
 namespace levora::desktop {
@@ -13,6 +14,9 @@ enum class Shade { system, light, dark };
 
 // The quiet look of all windows: one style, one light and one dark palette, one style sheet.
 void apply_look(QApplication& application, Shade shade);
+
+// Gives the items of a list the room that the style sheet tells.
+void space_items(QComboBox& list);
 
 [[nodiscard]] bool is_dark(const QPalette& palette);
 // A screen's own ground as this palette shows it: the grey of computed cells follows the palette.

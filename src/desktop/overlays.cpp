@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QPointer>
+#include <QPushButton>
 
 namespace levora::desktop {
 
@@ -33,7 +34,10 @@ void overlay_opened(QWidget& panel) {
     if (before && !panel.isAncestorOf(before))
         panel.setProperty(came_from, QVariant::fromValue(QPointer<QWidget>(before)));
     set_access_keys(panel, false);
-    if (QWidget* inside = first_inside(panel)) inside->setFocus(Qt::OtherFocusReason);
+    QWidget* inside = first_inside(panel);
+    if (!inside) return;
+    inside->setFocus(Qt::OtherFocusReason);
+    if (auto* grid = qobject_cast<GridView*>(inside)) grid->leave_label();
 }
 
 void overlay_closed(QWidget& panel) {
@@ -41,6 +45,16 @@ void overlay_closed(QWidget& panel) {
     const auto before = panel.property(came_from).value<QPointer<QWidget>>();
     panel.setProperty(came_from, QVariant());
     if (before && before->isVisible()) before->setFocus(Qt::OtherFocusReason);
+}
+
+QPushButton* cancel_of_overlay(const QWidget& inside) {
+    const QWidget* panel = &inside;
+    while (panel && !panel->property("overlay").toBool())
+        panel = panel->parentWidget();
+    if (!panel) return nullptr;
+    for (QPushButton* button : panel->findChildren<QPushButton*>())
+        if (button->objectName().contains(QLatin1String("Cancel"))) return button;
+    return nullptr;
 }
 
 } // namespace levora::desktop

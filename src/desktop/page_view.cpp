@@ -101,6 +101,7 @@ void PageView::build_bar() {
     search_ = new QLineEdit(this);
     search_->setPlaceholderText(tr("Search"));
     search_->setAccessibleName(tr("Search in the pages"));
+    search_->setToolTip(tr("Ctrl+F; Enter goes to the next place"));
     search_->setMaximumWidth(220);
     connect(search_, &QLineEdit::returnPressed, this, [this] { find_next(search_->text()); });
     bar->addWidget(search_);
@@ -184,6 +185,9 @@ void PageView::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_End:
         turn_to(pages_.count);
         break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        break; // the search has answered it: the focus stays there
     case Qt::Key_F:
         if (event->modifiers() & Qt::ControlModifier) {
             search_->setFocus();

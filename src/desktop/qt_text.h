@@ -17,4 +17,7 @@ inline std::string from_qt(const QString& text) {
 // Words for a reader or a tool tip: without access keys, runs of blanks as one.
 QString plain_words(std::string_view caption);
 
+// What a tool tip shows of plain words: a short text on one line, a long one in several.
+QString tip_text(const QString& words);
+
 } // namespace levora::desktop

@@ -3,6 +3,8 @@
 #include "desktop/form_loader.h"
 #include "desktop/grid_view.h"
 #include "desktop/long_work.h"
+#include "desktop/look.h"
+#include "desktop/page_view.h"
 #include "desktop/person.h"
 #include "desktop/qt_text.h"
 #include "widgets/fields.h"
@@ -159,13 +161,18 @@ void ScreenWindow::tie_commands() {
     on(QKeySequence(QStringLiteral("Ctrl+Y")), [this] { redo(); });
     on(QKeySequence(QStringLiteral("Ctrl+Shift+Z")), [this] { redo(); });
     on(QKeySequence(QStringLiteral("Ctrl+S")), [this] { press_button({"cmdSave1", "cmdSave"}); });
-    on(QKeySequence(QStringLiteral("Ctrl+P")), [this] { press_button({"cmdPrint", "cmdPreview"}); });
+    if (auto* pages = centralWidget()->findChild<PageView*>())
+        on(QKeySequence(QStringLiteral("Ctrl+P")), [pages] { emit pages->print_asked(); });
+    else
+        on(QKeySequence(QStringLiteral("Ctrl+P")), [this] { press_button({"cmdPrint", "cmdPreview"}); });
     // Not the sheet: its close box ends the program without saving and without a question.
     if (form_->name() != "frmWealthMain")
         on(QKeySequence(QStringLiteral("Ctrl+W")), [this] { window()->close(); });
     // What is only looked at goes away as a box does.
     for (const char* looked_at : {"frmRepPreview", "frmSprPreview", "frmReturnCheck"})
         if (form_->name() == looked_at) on(QKeySequence(QStringLiteral("Esc")), [this] { close(); });
+    if (form_->name() == "frmPrint")
+        on(QKeySequence(QStringLiteral("Esc")), [this] { press_button({"cmdCancel"}); });
     on(QKeySequence(QStringLiteral("F1")), [this] {
         if (!attached()) return;
         emit explanation_wanted(control_of(QApplication::focusWidget()));
@@ -385,6 +392,7 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
         return true;
     }
     case QEvent::FocusIn:
+        if (auto* list = qobject_cast<QComboBox*>(watched)) space_items(*list);
         focus_came(*control, watched, static_cast<QFocusEvent*>(event)->reason());
         break;
     case QEvent::FocusOut: {

@@ -121,10 +121,8 @@ public:
             why = explain(*found->second);
         }
         if (why.ways.empty()) return false; // typed
-        // As rich text it is broken into lines.
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(),
-                           QStringLiteral("<p>%1</p>").arg(to_qt(why.sentence).toHtmlEscaped()), widget,
-                           place);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip_text(to_qt(why.sentence)),
+                           widget, place);
         return true;
     }
 

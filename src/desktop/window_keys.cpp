@@ -1,6 +1,7 @@
 #include "desktop/access_keys.h"
 #include "desktop/grid_view.h"
 #include "desktop/key_names.h"
+#include "desktop/overlays.h"
 #include "desktop/qt_text.h"
 #include "desktop/screen_window.h"
 #include "widgets/fields.h"
@@ -27,6 +28,12 @@ bool ScreenWindow::key_pressed(const QKeyEvent& event, QObject* watched) {
         bool answered = false;
         if (!act([&] { answered = form_->press_key(name); }) || answered) return true;
     }
+    if (name == "Escape")
+        if (const auto* widget = qobject_cast<QWidget*>(watched))
+            if (QPushButton* cancel = cancel_of_overlay(*widget)) {
+                cancel->click();
+                return true;
+            }
     if (name == "Enter" && !qobject_cast<GridView*>(watched)) {
         if (auto* button = qobject_cast<QPushButton*>(watched)) {
             button->click();

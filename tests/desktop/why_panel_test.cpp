@@ -90,7 +90,8 @@ TEST_F(WhyPanelTest, TheRestingPointerTellsWhatIsComputedAndNothingElse) {
         return QToolTip::isVisible() ? QToolTip::text().toStdString() : std::string();
     };
     EXPECT_EQ(tip("txtLessDebt"), "");
-    EXPECT_EQ(tip("txtTotalAssets"), "<p>Total 45,12,349 = Assets 45,12,349 plus Deemed Assets 0</p>");
+    EXPECT_EQ(tip("txtTotalAssets"),
+              "<p style='white-space:pre'>Total 45,12,349 = Assets 45,12,349 plus Deemed Assets 0</p>");
 }
 
 } // namespace levora::desktop::testing
