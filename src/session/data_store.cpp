@@ -4,15 +4,12 @@
 #include "session/kept_stores.h"
 #include "session/row_set.h"
 #include "session/store_engine.h"
+#include "session/store_image.h"
 #include "session/store_tables.h"
+#include "session/whole_files.h"
 #include "widgets/value_text.h"
 
 #include <array>
-#include <cerrno>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace levora::session {
 
@@ -166,26 +163,7 @@ std::string store_path(const std::string& folder, Store store) {
 }
 
 void create_store(const std::string& folder, Store store) {
-    const std::string path = store_path(folder, store);
-    const int descriptor = ::open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, shared_file_mode);
-    if (descriptor < 0 && errno == EEXIST)
-        throw Failure(error_number::path_access, path + ": there is a store already");
-    if (descriptor < 0) throw_file_fault(path, errno);
-    (void)::fchmod(descriptor, shared_file_mode);
-    ::close(descriptor);
-    try {
-        OpenStore made(path);
-        made.begin();
-        for (const TableRule& each : store_tables()) {
-            if (each.store != store) continue;
-            made.run(create_table_statement(each));
-            if (const std::string index = create_index_statement(each); !index.empty()) made.run(index);
-        }
-        made.commit();
-    } catch (...) {
-        ::unlink(path.c_str());
-        throw;
-    }
+    write_new_file(store_path(folder, store), image_of_empty(store), shared_file_mode);
 }
 
 StatementResult run_statement(const std::string& folder, Store store, std::string_view statement) {

@@ -3,7 +3,7 @@
 #include "session/file_faults.h"
 #include "session/parts_file.h"
 #include "session/store_engine.h"
-#include "session/whole_files.h"
+#include "session/store_image.h"
 #include "session/whole_folder.h"
 #include "widgets/failure.h"
 
@@ -14,25 +14,9 @@
 #include <new>
 #include <vector>
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 namespace levora::session {
 
 namespace {
-
-struct FreeImage {
-    void operator()(unsigned char* image) const { sqlite3_free(image); }
-};
-
-// The bytes of a store's file, as a copy of it would have them at this moment.
-std::string image_of(OpenStore& store) {
-    sqlite3_int64 size = 0;
-    const std::unique_ptr<unsigned char, FreeImage> image(
-        sqlite3_serialize(store.database(), "main", &size, 0));
-    if (!image) throw Failure(SQLITE_NOMEM, store.file() + ": too large to be held in memory");
-    return {reinterpret_cast<const char*>(image.get()), static_cast<std::size_t>(size)};
-}
 
 void check_image(const std::string& name, const std::string& image) {
     sqlite3* database = nullptr;
@@ -54,18 +38,6 @@ void check_image(const std::string& name, const std::string& image) {
     if (verdict != "ok") throw Failure(error_number::path_access, "the backup of " + name + " is damaged");
 }
 
-// A restoring that was killed has left some of the stores, as they are in the backup: those are no
-// hindrance to the next. All of them, or another one, are a folder at work.
-void refuse_stores_in_use(const std::map<std::string, const std::string*>& images) {
-    struct stat found {};
-    std::size_t there = 0;
-    for (const auto& [path, image] : images) {
-        if (::lstat(path.c_str(), &found) != 0) continue;
-        if (++there == images.size() || !S_ISREG(found.st_mode) || read_whole_file(path) != *image)
-            throw Failure(error_number::path_access, path + ": there is a store already");
-    }
-}
-
 } // namespace
 
 void back_up_folder(const std::string& folder, const std::string& file, const WorkTold& told) {
@@ -76,7 +48,8 @@ void back_up_folder(const std::string& folder, const std::string& file, const Wo
         for (const Store each : all_stores) {
             OpenStore store(store_path(folder, each));
             if (told) told(store.file(), done++, static_cast<int>(std::size(all_stores)));
-            backup.put(std::filesystem::path(store.file()).filename().string(), image_of(store));
+            backup.put(std::filesystem::path(store.file()).filename().string(),
+                       image_of(store.database(), store.file()));
         }
         for (const auto& [name, content] : working_copies(folder))
             backup.put(name, content);
@@ -86,7 +59,7 @@ void back_up_folder(const std::string& folder, const std::string& file, const Wo
 
 void restore_folder(const std::string& file, const std::string& folder, const WorkTold& told) {
     const std::map<std::string, std::string> parts = PartsFile::open(file, PartsFile::Kind::backup).parts();
-    std::map<std::string, const std::string*> images;
+    StoreImages images;
     int done = 0;
     const auto tell = [&](const std::string& path) {
         if (told) told(path, done++, 2 * static_cast<int>(std::size(all_stores))); // looked at, then written
@@ -100,20 +73,9 @@ void restore_folder(const std::string& file, const std::string& folder, const Wo
         check_image(part->first, part->second);
         images.emplace(path, &part->second);
     }
-    refuse_stores_in_use(images);
+    refuse_stores_at_work(images);
     make_folder(folder);
-    std::vector<std::string> made = write_working_copies(folder, parts);
-    try {
-        for (const auto& [path, image] : images) {
-            tell(path);
-            std::string file = path;
-            make_room(made);
-            if (write_missing_file(path, *image, shared_file_mode)) made.push_back(std::move(file));
-        }
-    } catch (...) {
-        remove_files(made);
-        throw;
-    }
+    write_stores(images, write_working_copies(folder, parts), tell);
 }
 
 } // namespace levora::session

@@ -2,15 +2,14 @@
 
 #include "session/file_faults.h"
 #include "session/store_engine.h"
+#include "session/store_image.h"
 #include "session/store_tables.h"
 #include "widgets/value_text.h"
 
-#include <cerrno>
 #include <filesystem>
 #include <list>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace levora::session {
 
@@ -81,20 +80,13 @@ void make_folder(const std::string& folder) {
 }
 
 void create_data_folder(const std::string& folder) {
-    struct stat found {};
+    std::list<std::string> contents;
+    StoreImages images;
     for (const Store each : all_stores)
-        if (::lstat(store_path(folder, each).c_str(), &found) == 0)
-            throw Failure(error_number::path_access, store_path(folder, each) + ": there is a store already");
+        images.emplace(store_path(folder, each), &contents.emplace_back(image_of_empty(each)));
+    refuse_stores_at_work(images);
     make_folder(folder);
-    const Store* next = std::begin(all_stores);
-    try {
-        for (; next != std::end(all_stores); ++next)
-            create_store(folder, *next);
-    } catch (...) {
-        for (const Store* made = std::begin(all_stores); made != next; ++made)
-            ::unlink(store_path(folder, *made).c_str());
-        throw;
-    }
+    write_stores(images, {});
 }
 
 } // namespace levora::session
