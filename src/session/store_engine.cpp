@@ -194,6 +194,7 @@ StatementResult OpenStore::run(sqlite3_stmt* statement) {
 }
 
 void OpenStore::attach(const std::vector<AttachedStore>& others) {
+    detach_all(); // what a statement that failed has left
     for (const AttachedStore& each : others) {
         const std::string file = store_file(each.file);
         check_file(file);
