@@ -101,15 +101,16 @@ void frmPrint::SavePrintSettings() {
 void frmPrint::cmdPrint_Click() {
     // Wanted: nothing is kept here, so that margins typed for this print alone are forgotten, and the
     // dialog is gone afterwards, printed or not.
-    session::procedure(session_, "frmPrint - cmdPrint_Click", [this](const session::Attempt& attempt) {
+    // No step is tried again either: its report closes the dialog.
+    session::procedure(session_, "frmPrint - cmdPrint_Click", [this](const session::Attempt&) {
         if (!session_.desk.choose_printer()) return;
-        const int top = attempt([&] { return margin_twips(txtTopMargin.text()); });
-        const int left = attempt([&] { return margin_twips(txtLeftMargin.text()); });
-        const int copies = attempt([&] { return to_integer(txtNoCopies.value()); });
+        const int top = margin_twips(txtTopMargin.text());
+        const int left = margin_twips(txtLeftMargin.text());
+        const int copies = to_integer(txtNoCopies.value());
         if (session_.PrintSource == print_source::challan)
-            attempt([&] { print_challan(top, left, copies); });
+            print_challan(top, left, copies);
         else if (session_.PrintSource == print_source::form_bb)
-            attempt([&] { print_form_bb(copies); });
+            print_form_bb(copies);
     });
     close();
 }

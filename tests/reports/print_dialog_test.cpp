@@ -95,6 +95,7 @@ TEST_F(PrintDialogTest, PrintingForgetsTheMarginsTypedForIt) {
     challan().cmdPrint.click();
     dialog().txtNoCopies.type("40000"); // more than a number holds
     desk.queue_printer();
+    desk.queue_answer(widgets::Answer::ok); // which tries nothing again
     dialog().cmdPrint.click();
     EXPECT_EQ(boxes() + logged(), "6 OverflowfrmPrint - cmdPrint_Click");
     EXPECT_TRUE(closed());
