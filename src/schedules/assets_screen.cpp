@@ -157,11 +157,12 @@ void frmImmovable::save_asset_details(const Attempt& attempt) {
 
 void frmImmovable::cmdOK_Click() {
     if (!read_) {
-        std::vector<session::UnreadTable> tables{{"jewellery", year_key(session_)}};
+        std::vector<session::UnreadTable> tables;
         for (const std::string_view each :
              {"Immovable Property Details", "Urban Land", "Movable Property Details", "InterestInFirmOrAOP",
               "Asset Details"})
             tables.push_back({each, asset_key(session_)});
+        tables.push_back({"jewellery", year_key(session_)});
         const OverUnread choice = ask_over_unread(session_, "frmImmovable - SaveAssetComputation", tables);
         if (choice == OverUnread::leave) {
             session_.screens.show(in_main_mode() ? "frmWealthMain" : asset_parent(session_).screen);

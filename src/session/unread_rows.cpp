@@ -12,52 +12,23 @@ namespace {
 
 using widgets::Answer;
 
-// The first column that a store's table lacks; without it no row can be saved there.
-std::string missing_column(const RowSet& rows, std::string_view table) {
-    for (const ColumnRule& each : find_table(Store::tax, table)->columns)
+// True when there is something to lose. A table in which no row could be saved fails here as the save
+// would, which deletes the old rows first.
+bool has_rows(Session& session, const UnreadTable& table) {
+    const RowSet rows =
+        session.TaxDb.open_rows("Select * From [" + std::string(table.name) + "] Where " + table.key);
+    if (rows.eof()) return false;
+    for (const ColumnRule& each : find_table(Store::tax, table.name)->columns)
         if (std::ranges::none_of(rows.columns(),
                                  [&](const auto& name) { return equal_without_case(name, each.name); }))
-            return std::string(each.name);
-    return {};
-}
-
-struct Found {
-    bool has_rows = false;
-    std::string missing_column;
-};
-
-Found look_at(Session& session, const UnreadTable& table) {
-    constexpr int wrong_statement = 1; // of the engine: no such table, no such column
-    try {
-        const RowSet rows =
-            session.TaxDb.open_rows("Select * From [" + std::string(table.name) + "] Where " + table.key);
-        if (rows.eof()) return {};
-        return {true, missing_column(rows, table.name)};
-    } catch (const Failure& failure) {
-        // A table that is not there, or has no such key, loses nothing: the save's own report tells it.
-        if (failure.number != wrong_statement) throw;
-        return {};
-    }
-}
-
-OverUnread tell_missing_column(Session& session, std::string_view table, const std::string& column) {
-    const auto answer = session.desk.show_message(
-        {.text = "Nothing can be saved: table \"" + std::string(table) + "\" lacks the column \"" + column +
-                 "\".\nOK - To leave without saving\nCancel - To stay here",
-         .title = "Levora Wealth Tax",
-         .icon = widgets::Icon::exclamation,
-         .buttons = {Answer::ok, Answer::cancel}});
-    return answer == Answer::ok ? OverUnread::leave : OverUnread::stay;
+            (void)rows[each.name];
+    return true;
 }
 
 OverUnread ask(Session& session, const std::vector<UnreadTable>& tables) {
     std::string names;
-    for (const UnreadTable& each : tables) {
-        const Found found = look_at(session, each);
-        if (!found.missing_column.empty())
-            return tell_missing_column(session, each.name, found.missing_column);
-        if (found.has_rows) names += (names.empty() ? "" : ", ") + std::string(each.name);
-    }
+    for (const UnreadTable& each : tables)
+        if (has_rows(session, each)) names += (names.empty() ? "" : ", ") + std::string(each.name);
     return names.empty() ? OverUnread::save : ask_over_unread(session, "The stored rows of " + names);
 }
 

@@ -22,8 +22,9 @@ enum class OverUnread {
     stay,  // the question was dismissed: nothing happens
 };
 
-// Asks where one of these tables has rows of its key. A table that lacks a column can't be saved at all,
-// which is told instead. What fails is reported under the procedure's name.
+// Asks where one of these tables has rows of its key. A table that can't be read, or can't take a row for
+// want of a column, is reported under the save's name before anything is deleted; a report that is
+// dismissed leaves.
 OverUnread ask_over_unread(Session& session, std::string_view procedure,
                            const std::vector<UnreadTable>& tables);
 
