@@ -5,6 +5,7 @@
 #include "desktop/qt_text.h"
 #include "widgets/grid.h"
 
+#include <QApplication>
 #include <QComboBox>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -38,7 +39,7 @@ QString input_mask(const std::string& mask) {
 
 // As flat as the buttons beside the grid.
 void draw_button(QPainter& painter, const QStyleOptionViewItem& option, const QString& caption) {
-    const QPalette& palette = option.palette;
+    const QPalette palette = QApplication::palette(); // the grid's own has the ground of its cells
     const bool enabled = option.state & QStyle::State_Enabled;
     const bool hovered = enabled && option.state & QStyle::State_MouseOver;
     const QRectF shape = QRectF(option.rect).adjusted(2.5, 1.5, -2.5, -1.5);

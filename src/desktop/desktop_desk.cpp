@@ -9,7 +9,9 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
@@ -41,6 +43,39 @@ QMessageBox::Icon icon_of(Icon icon) {
         break;
     }
     return QMessageBox::NoIcon;
+}
+
+// A quiet sign in the colours of the palette, sharp at every scale.
+QPixmap sign_of(Icon icon, const QWidget& box) {
+    constexpr int size = 36;
+    const QPalette palette = QApplication::palette();
+    const QColor ground = icon == Icon::critical      ? QColor(0xb3, 0x26, 0x1e)
+                          : icon == Icon::exclamation ? QColor(0xb2, 0x6a, 0x00)
+                                                      : palette.color(QPalette::Highlight);
+    const double scale = box.devicePixelRatioF();
+    QPixmap sign(qRound(size * scale), qRound(size * scale));
+    sign.setDevicePixelRatio(scale);
+    sign.fill(Qt::transparent);
+    QPainter painter(&sign);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ground);
+    painter.drawEllipse(QRectF(1, 1, size - 2, size - 2));
+    QFont font = QApplication::font();
+    font.setPixelSize(size * 5 / 8);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    const QChar letter = QLatin1Char(icon == Icon::question ? '?' : icon == Icon::information ? 'i' : '!');
+    painter.drawText(QRectF(0, 0, size, size), Qt::AlignCenter, QString(letter));
+    return sign;
+}
+
+// A box that is narrower than its title would cut it.
+void make_room_for_title(QMessageBox& box) {
+    constexpr int least_width = 320;
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
+        grid->addItem(new QSpacerItem(least_width, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 QMessageBox::ButtonRole role_of(Answer answer) {
@@ -111,6 +146,8 @@ std::optional<Answer> DesktopDesk::show_message(const widgets::MessageBox& box) 
     shown.addButton(&hidden, QMessageBox::RejectRole);
     hidden.setVisible(false);
     shown.setEscapeButton(&hidden);
+    if (box.icon != Icon::none) shown.setIconPixmap(sign_of(box.icon, shown));
+    make_room_for_title(shown);
     shown.exec();
     for (std::size_t at = 0; at < buttons.size(); ++at)
         if (shown.clickedButton() == buttons[at]) return box.buttons[at];

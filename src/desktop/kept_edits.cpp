@@ -111,7 +111,12 @@ void keep_edits(ScreenWindow& window, const session::Session& session,
         if (auto* button = window.findChild<QPushButton*>(QLatin1String(name))) {
             QObject::connect(button, &QPushButton::pressed, &window,
                              [&session, given_up] { *given_up = session.given_up(); });
-            QObject::connect(button, &QPushButton::clicked, &window, forget);
+            QObject::connect(button, &QPushButton::clicked, &window, [&window, &session, given_up, forget] {
+                forget();
+                window.tell(*given_up == session.given_up()
+                                ? QObject::tr("Saved.")
+                                : QObject::tr("Not all of it is saved: see the error reported."));
+            });
         }
     if (auto* year = window.findChild<QComboBox*>(QStringLiteral("cboFY")))
         QObject::connect(year, &QComboBox::activated, &window, [&session, given_up, forget] {
