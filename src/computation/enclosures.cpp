@@ -1,5 +1,5 @@
 #include "computation/wealth_sheet.h"
-#include "session/common_services.h"
+#include "session/table_rows.h"
 
 #include <string_view>
 
@@ -33,8 +33,7 @@ void frmWealthMain::design_enclosures() {
 // Nothing is written back while reading, so that looking at a sheet leaves the store untouched.
 void frmWealthMain::load_enclosures(const session::Attempt& attempt) {
     attempt([this] { sprEnclosure.clear_data(); });
-    session_.SqlText = "Select * From Enclosure Where " + row_key();
-    session::RowSet rows = attempt([this] { return session_.TaxDb.open_rows(session_.SqlText); });
+    session::RowSet rows = open_rows(session_, attempt, "Enclosure Where " + row_key());
     for (int row = 1; !rows.eof(); ++row) {
         if (sprEnclosure.rows() < row) attempt([&] { sprEnclosure.set_rows(row); });
         for (const EnclosureField& field : enclosure_fields)
@@ -44,11 +43,7 @@ void frmWealthMain::load_enclosures(const session::Attempt& attempt) {
 }
 
 void frmWealthMain::save_enclosures(const session::Attempt& attempt) {
-    session_.SqlText = "Delete From Enclosure Where " + row_key();
-    attempt([this] { session_.TaxDb.execute(session_.SqlText); });
-    session_.SqlText = "Select * From Enclosure Where " + row_key();
-    session::RowSet rows =
-        attempt([this] { return session_.TaxDb.open_rows(session_.SqlText, session::RowSetUse::update); });
+    session::RowSet rows = open_emptied(session_, attempt, "Enclosure Where " + row_key());
     for (int row = 1; row <= sprEnclosure.data_rows(); ++row) {
         attempt([&] { rows.add_new(); });
         attempt([&] { rows.set("AssesseeNo", session_.AssesseeNo); });

@@ -2,6 +2,7 @@
 
 #include "reports/screen_text.h"
 #include "session/common_services.h"
+#include "session/table_rows.h"
 #include "widgets/value_text.h"
 
 #include <array>
@@ -107,11 +108,7 @@ bool is_taken(const ClauseRows& clause, const widgets::Grid& grid, int row) {
 
 void SaveBusinessAsset(session::Session& session) {
     session::procedure(session, "frmFormBA - SaveBusinessAsset", [&session](const auto& attempt) {
-        session.SqlText = "Delete From [TempPrint]";
-        attempt([&] { return session.TaxDb.execute(session.SqlText); });
-        session.SqlText = "Select * From [TempPrint]";
-        session::RowSet rows =
-            attempt([&] { return session.TaxDb.open_rows(session.SqlText, session::RowSetUse::update); });
+        session::RowSet rows = open_emptied(session, attempt, "[TempPrint]");
         const widgets::Grid& stones = grid_of(session, screen, "sprPreciousStone");
         for (const ClauseRows& clause : clauses()) {
             const widgets::Grid& grid = grid_of(session, screen, clause.grid);

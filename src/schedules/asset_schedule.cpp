@@ -1,5 +1,7 @@
 #include "schedules/asset_schedule.h"
 
+#include "session/table_rows.h"
+
 namespace levora::schedules {
 
 std::string year_key(const session::Session& session) {
@@ -12,6 +14,22 @@ std::string asset_key(const session::Session& session) {
 
 std::string property_key(const session::Session& session, int property_no) {
     return asset_key(session) + " And PropertyNo = " + std::to_string(property_no);
+}
+
+void set_asset_key(session::RowSet& record, const session::Session& session) {
+    record.set("AssesseeNo", session.AssesseeNo);
+    record.set("FY", session.CurrentFY);
+    record.set("AssetType", session.asset_type());
+}
+
+session::RowSet open_or_add(session::Session& session, const session::Attempt& attempt,
+                            const std::string& from) {
+    session::RowSet record = open_rows(session, attempt, from, session::RowSetUse::update);
+    if (record.eof()) {
+        record.add_new();
+        set_asset_key(record, session);
+    }
+    return record;
 }
 
 } // namespace levora::schedules

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "session/common_services.h"
+#include "session/data_store.h"
 #include "session/session_state.h"
 #include "widgets/fields.h"
 
@@ -45,5 +46,12 @@ std::string year_key(const session::Session& session);
 std::string asset_key(const session::Session& session);
 // The same with " And PropertyNo = 1" behind it: what is kept of one house property.
 std::string property_key(const session::Session& session, int property_no);
+
+// Makes a new record one of asset_key.
+void set_asset_key(session::RowSet& record, const session::Session& session);
+// A step of a save: opens the one record that `from` names (see session::open_rows), or a new one of
+// asset_key where there is none.
+session::RowSet open_or_add(session::Session& session, const session::Attempt& attempt,
+                            const std::string& from);
 
 } // namespace levora::schedules

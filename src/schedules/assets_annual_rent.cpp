@@ -4,6 +4,7 @@
 #include "schedules/assets_immovable.h"
 #include "schedules/grid_keys.h"
 #include "schedules/property_grid.h"
+#include "session/table_rows.h"
 #include "session/unread_rows.h"
 #include "widgets/form.h"
 
@@ -14,10 +15,8 @@
 namespace levora::schedules {
 
 using session::Attempt;
-using session::OverUnread;
 using session::procedure;
 using session::RowSet;
-using session::RowSetUse;
 
 namespace {
 
@@ -160,13 +159,10 @@ void AnnualRentPanel::sprAnnualRent_Change(int, int row) {
 }
 
 void AnnualRentPanel::cmdOKAnnualRent_Click() {
-    if (!read_) {
-        const int property_no = immovable_.sprImmovable.active_column() - 1;
-        const OverUnread choice = ask_over_unread(session_, "frmImmovable - SaveAnnualRent",
-                                                  {{"Annual Rent", property_key(session_, property_no)}});
-        if (choice == OverUnread::leave) frAnnualRent.set_visible(false);
-        if (choice != OverUnread::save) return;
-    }
+    if (!read_ && !saves_over_unread(session_, "frmImmovable - SaveAnnualRent",
+                                     {{"Annual Rent", property_key(session_, immovable_.active_property())}},
+                                     [this] { frAnnualRent.set_visible(false); }))
+        return;
     SaveAnnualRent();
     frAnnualRent.set_visible(false);
     const int column = immovable_.sprImmovable.active_column();
@@ -176,9 +172,8 @@ void AnnualRentPanel::cmdOKAnnualRent_Click() {
 
 void AnnualRentPanel::LoadAnnualRent() {
     read_ = procedure(session_, "frmImmovable - LoadAnnualRent", [this](const Attempt& attempt) {
-        const int property_no = immovable_.sprImmovable.active_column() - 1;
-        session_.SqlText = "Select * From [Annual Rent] Where " + property_key(session_, property_no);
-        const RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
+        const RowSet rows = open_rows(
+            session_, attempt, "[Annual Rent] Where " + property_key(session_, immovable_.active_property()));
         // Wanted: the grid is not cleared. A property without a row takes the figures of the property
         // shown last; clearing would lose the figures that a person copies from one to the next.
         if (!rows.eof()) {
@@ -198,16 +193,10 @@ void AnnualRentPanel::LoadAnnualRent() {
 
 void AnnualRentPanel::SaveAnnualRent() {
     procedure(session_, "frmImmovable - SaveAnnualRent", [this](const Attempt& attempt) {
-        const int property_no = immovable_.sprImmovable.active_column() - 1;
-        session_.SqlText = "Select * From [Annual Rent] Where " + property_key(session_, property_no);
-        RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
-        if (rows.eof()) {
-            rows.add_new();
-            rows.set("AssesseeNo", session_.AssesseeNo);
-            rows.set("FY", session_.CurrentFY);
-            rows.set("AssetType", session_.asset_type());
-            rows.set("PropertyNo", property_no);
-        }
+        const int property_no = immovable_.active_property();
+        RowSet rows =
+            open_or_add(session_, attempt, "[Annual Rent] Where " + property_key(session_, property_no));
+        rows.set("PropertyNo", property_no);
         for (int row = 1; row <= rent_rows; ++row) {
             const RentItem& item = rent_items[static_cast<std::size_t>(row - 1)];
             if (!item.stored_as.empty()) rows.set(item.stored_as, sprAnnualRent.value(amount_column, row));

@@ -2,6 +2,7 @@
 
 #include "schedules/assets_screen.h"
 #include "schedules/schedule_field.h"
+#include "session/table_rows.h"
 
 #include <array>
 #include <string>
@@ -11,7 +12,6 @@ namespace levora::schedules {
 
 using session::Attempt;
 using session::RowSet;
-using session::RowSetUse;
 using widgets::CellDesign;
 
 namespace {
@@ -115,18 +115,14 @@ int FirmSchedule::rows_to_delete() const {
 
 void FirmSchedule::load(const Attempt& attempt) {
     sprAssetInterest.clear_data();
-    session_.SqlText = "Select * From [InterestInFirmOrAOP] where " + asset_key(session_);
-    RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
+    RowSet records = open_rows(session_, attempt, "[InterestInFirmOrAOP] where " + asset_key(session_));
     fill_rows(sprAssetInterest, fields, records, RowGrowth::as_needed);
     // Wanted: the names' column, which no total follows: the total stays empty after a load.
     sprAssetInterest_Change(FirmColumn::partners, -1);
 }
 
 void FirmSchedule::save(const Attempt& attempt) {
-    session_.SqlText = "Delete From [InterestInFirmOrAOP] Where " + asset_key(session_);
-    attempt([&] { session_.TaxDb.execute(session_.SqlText); });
-    session_.SqlText = "Select * From [InterestInFirmOrAOP] Where " + asset_key(session_);
-    RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
+    RowSet records = open_emptied(session_, attempt, "[InterestInFirmOrAOP] Where " + asset_key(session_));
     // Wanted: no row is left out; a firm's name alone is stored with amounts of 0.
     store_rows(attempt, session_, records, sprAssetInterest, fields,
                {.last_row = sprAssetInterest.data_rows(), .kept = {}, .asset_type = session_.asset_type()});

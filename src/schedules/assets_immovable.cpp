@@ -3,6 +3,7 @@
 #include "schedules/assets_screen.h"
 #include "schedules/grid_keys.h"
 #include "schedules/property_grid.h"
+#include "session/table_rows.h"
 
 namespace levora::schedules {
 
@@ -96,9 +97,9 @@ void ImmovableSchedule::compute_total() {
 
 void ImmovableSchedule::load(const Attempt& attempt) {
     sprImmovable.clear_data({first_property_column, 1, sprImmovable.columns() - 1, sprImmovable.rows()});
-    session_.SqlText =
-        "Select * From [Immovable Property Details] Where " + asset_key(session_) + " Order By PropertyNo";
-    RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
+    RowSet rows =
+        open_rows(session_, attempt,
+                  "[Immovable Property Details] Where " + asset_key(session_) + " Order By PropertyNo");
     int column = first_property_column;
     for (; !rows.eof(); rows.move_next()) {
         fill_column(column, rows);
@@ -136,13 +137,11 @@ void ImmovableSchedule::save(const Attempt& attempt) {
     attempt([&] { session_.TaxDb.execute(session_.SqlText); });
     const double count = cboNumberOfProperty.value();
     if (count < 1) return;
-    session_.SqlText = "Select * From [Immovable Property Details] Where " + asset_key(session_);
-    RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
+    RowSet rows = open_rows(session_, attempt, "[Immovable Property Details] Where " + asset_key(session_),
+                            RowSetUse::update);
     for (int column = first_property_column; column <= count + 1; ++column) {
         rows.add_new();
-        rows.set("AssesseeNo", session_.AssesseeNo);
-        rows.set("FY", session_.CurrentFY);
-        rows.set("AssetType", session_.asset_type());
+        set_asset_key(rows, session_);
         rows.set("PropertyNo", column - 1);
         for (int row = 1; row <= property_rows; ++row) {
             const PropertyItem& item = property_item(row);

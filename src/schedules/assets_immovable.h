@@ -28,6 +28,9 @@ public:
     void save(const session::Attempt& attempt) override;
     [[nodiscard]] std::string value_for_parent() const override;
 
+    // Of the active column, from 1: what the sub-screens of a property keep their records by.
+    [[nodiscard]] int active_property() const { return sprImmovable.active_column() - 1; }
+
     // What an edit of that cell sets off: the valuation of the column where its row recomputes, and
     // in any case the total.
     void sprImmovable_Change(int column, int row);

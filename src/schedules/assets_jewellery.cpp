@@ -2,6 +2,7 @@
 
 #include "schedules/assets_screen.h"
 #include "schedules/schedule_field.h"
+#include "session/table_rows.h"
 
 #include <array>
 #include <string>
@@ -10,7 +11,6 @@ namespace levora::schedules {
 
 using session::Attempt;
 using session::RowSet;
-using session::RowSetUse;
 using session::Value;
 using widgets::CellDesign;
 
@@ -144,8 +144,8 @@ void JewellerySchedule::load(const Attempt& attempt) {
     // takes their place.
     const int last_cleared = form_.immovable.sprImmovable.columns() - 1;
     sprJewellary.clear_data({first_jewellery_column, 1, last_cleared, sprJewellary.rows()});
-    session_.SqlText = "Select * From [jewellery] where " + year_key(session_) + " Order By JwelleryNo";
-    RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
+    RowSet records =
+        open_rows(session_, attempt, "[jewellery] where " + year_key(session_) + " Order By JwelleryNo");
     int column = first_jewellery_column;
     for (; !records.eof(); records.move_next()) {
         fill_item(column, records);
@@ -166,10 +166,7 @@ void JewellerySchedule::fill_item(int column, const RowSet& record) {
 }
 
 void JewellerySchedule::save(const Attempt& attempt) {
-    session_.SqlText = "Delete From [jewellery] where " + year_key(session_);
-    attempt([&] { session_.TaxDb.execute(session_.SqlText); });
-    session_.SqlText = "Select * From [jewellery] where " + year_key(session_);
-    RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
+    RowSet records = open_emptied(session_, attempt, "[jewellery] where " + year_key(session_));
     const int last = sprJewellary.data_columns();
     for (int column = first_jewellery_column; column <= last; ++column) {
         // Wanted: an item is known by its description; one without is not stored, whatever its value.

@@ -3,6 +3,7 @@
 #include "schedules/assets_screen.h"
 #include "schedules/grid_keys.h"
 #include "schedules/schedule_field.h"
+#include "session/table_rows.h"
 
 #include <array>
 
@@ -10,7 +11,6 @@ namespace levora::schedules {
 
 using session::Attempt;
 using session::RowSet;
-using session::RowSetUse;
 using widgets::CellDesign;
 
 namespace {
@@ -87,9 +87,8 @@ void MovableSchedule::sprMovableProp_Change(int column, int row) {
 
 void MovableSchedule::load(const Attempt& attempt) {
     sprMovableProp.clear_data({MovableColumn::amount, 1, MovableColumn::amount, MovableRow::total});
-    session_.SqlText =
-        "Select * From [Movable Property Details] where " + asset_key(session_) + " Order by SrNo";
-    RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
+    RowSet records = open_rows(session_, attempt,
+                               "[Movable Property Details] where " + asset_key(session_) + " Order by SrNo");
     for (; !records.eof(); records.move_next()) {
         const double row = records["SrNo"].number();
         if (row >= 1 && row < sprMovableProp.rows() + 1)
@@ -98,18 +97,14 @@ void MovableSchedule::load(const Attempt& attempt) {
 }
 
 void MovableSchedule::save(const Attempt& attempt) {
-    session_.SqlText = "Delete From [Movable Property Details] where " + asset_key(session_);
-    attempt([&] { session_.TaxDb.execute(session_.SqlText); });
-    session_.SqlText = "Select * From [Movable Property Details] where " + asset_key(session_);
-    RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
+    RowSet records =
+        open_emptied(session_, attempt, "[Movable Property Details] where " + asset_key(session_));
     const int last_item = sprMovableProp.rows() - 1; // the total row is always the last
     for (int row = 1; row <= last_item; ++row) {
         // Wanted: an item whose debt reaches its amount is not stored.
         if (sprMovableProp.value(MovableColumn::net, row) <= 0) continue;
         records.add_new();
-        records.set("AssesseeNo", session_.AssesseeNo);
-        records.set("FY", session_.CurrentFY);
-        records.set("AssetType", session_.asset_type());
+        set_asset_key(records, session_);
         records.set("SrNo", row);
         store_fields(records, sprMovableProp, row, fields);
         attempt([&] { records.update(); });

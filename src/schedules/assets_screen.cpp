@@ -5,15 +5,14 @@
 #include "schedules/hand_over.h"
 #include "schedules/named_control.h"
 #include "session/common_services.h"
+#include "session/table_rows.h"
 #include "session/unread_rows.h"
 
 namespace levora::schedules {
 
 using session::Attempt;
-using session::OverUnread;
 using session::procedure;
 using session::RowSet;
-using session::RowSetUse;
 
 frmImmovable::frmImmovable(session::Session& session)
     : Screen(session, "frmImmovable", "Details of Wealth Tax"),
@@ -127,8 +126,7 @@ void frmImmovable::SaveAssetComputation() {
 }
 
 void frmImmovable::load_asset_details(const Attempt& attempt) {
-    session_.SqlText = "Select * From [Asset Details] Where " + asset_key(session_);
-    const RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
+    const RowSet rows = open_rows(session_, attempt, "[Asset Details] Where " + asset_key(session_));
     if (rows.eof()) return;
     txtNetUrbanLand.set_value(rows["NetUrbanLand"].number());
     txtNetMovableProperty.set_value(rows["NetMovableProperty"].number());
@@ -137,14 +135,7 @@ void frmImmovable::load_asset_details(const Attempt& attempt) {
 }
 
 void frmImmovable::save_asset_details(const Attempt& attempt) {
-    session_.SqlText = "Select * From [Asset Details] Where " + asset_key(session_);
-    RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
-    if (rows.eof()) {
-        rows.add_new();
-        rows.set("AssesseeNo", session_.AssesseeNo);
-        rows.set("FY", session_.CurrentFY);
-        rows.set("AssetType", session_.asset_type());
-    }
+    RowSet rows = open_or_add(session_, attempt, "[Asset Details] Where " + asset_key(session_));
     rows.set("ImmovablePropertyDebtOwed", 0);
     rows.set("NetImmovableProperty", txtNetImmovableProperty.value());
     rows.set("NetUrbanLand", txtNetUrbanLand.value());
@@ -163,12 +154,12 @@ void frmImmovable::cmdOK_Click() {
               "Asset Details"})
             tables.push_back({each, asset_key(session_)});
         tables.push_back({"jewellery", year_key(session_)});
-        const OverUnread choice = ask_over_unread(session_, "frmImmovable - SaveAssetComputation", tables);
-        if (choice == OverUnread::leave) {
+        const auto leave_unsaved = [this] {
             session_.screens.show(in_main_mode() ? "frmWealthMain" : asset_parent(session_).screen);
             leave();
-        }
-        if (choice != OverUnread::save) return;
+        };
+        if (!saves_over_unread(session_, "frmImmovable - SaveAssetComputation", tables, leave_unsaved))
+            return;
     }
     SaveAssetComputation();
     widgets::Screens& screens = session_.screens;

@@ -9,7 +9,6 @@
 
 namespace levora::schedules {
 
-using session::OverUnread;
 using session::RowSet;
 using session::RowSetUse;
 using widgets::CellDesign;
@@ -112,10 +111,9 @@ void StonesPanel::sprPreciousStone_Change() {
 
 void StonesPanel::btnOK_Click() {
     if (!read_ && sprPreciousStone.data_rows() > 0) {
-        const OverUnread choice =
-            ask_over_unread(session_, "frmImmovable - btnOK_Click", {{"PreciousStones", item_key()}});
-        if (choice == OverUnread::leave) frPreciousStone.set_visible(false);
-        if (choice != OverUnread::save) return;
+        if (!saves_over_unread(session_, "frmImmovable - btnOK_Click", {{"PreciousStones", item_key()}},
+                               [this] { frPreciousStone.set_visible(false); }))
+            return;
     }
     SavePreciousStones();
     frPreciousStone.set_visible(false);

@@ -5,6 +5,7 @@
 #include "schedules/assets_screen.h"
 #include "schedules/grid_keys.h"
 #include "schedules/property_grid.h"
+#include "session/table_rows.h"
 #include "session/unread_rows.h"
 
 #include <algorithm>
@@ -15,10 +16,8 @@
 namespace levora::schedules {
 
 using session::Attempt;
-using session::OverUnread;
 using session::procedure;
 using session::RowSet;
-using session::RowSetUse;
 
 namespace {
 
@@ -199,13 +198,10 @@ void UnbuiltAreaPanel::sprUnbuiltArea_Change(int, int row) {
 }
 
 void UnbuiltAreaPanel::cmdUnbuiltAreaOk_Click() {
-    if (!read_) {
-        const int property_no = immovable_.sprImmovable.active_column() - 1;
-        const OverUnread choice = ask_over_unread(session_, "frmImmovable - SaveUnbuiltArea",
-                                                  {{"Unbuilt Area", property_key(session_, property_no)}});
-        if (choice == OverUnread::leave) frUnbuiltArea.set_visible(false);
-        if (choice != OverUnread::save) return;
-    }
+    if (!read_ && !saves_over_unread(session_, "frmImmovable - SaveUnbuiltArea",
+                                     {{"Unbuilt Area", property_key(session_, immovable_.active_property())}},
+                                     [this] { frUnbuiltArea.set_visible(false); }))
+        return;
     SaveUnbuiltArea();
     frUnbuiltArea.set_visible(false);
     widgets::Grid& properties = immovable_.sprImmovable;
@@ -221,9 +217,9 @@ void UnbuiltAreaPanel::cmdUnbuiltAreaOk_Click() {
 void UnbuiltAreaPanel::LoadUnbuiltArea() {
     read_ = procedure(session_, "frmImmovable - LoadUnbuiltArea", [this](const Attempt& attempt) {
         sprUnbuiltArea.clear_data();
-        const int property_no = immovable_.sprImmovable.active_column() - 1;
-        session_.SqlText = "Select * From [Unbuilt Area] where " + property_key(session_, property_no);
-        const RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
+        const RowSet rows =
+            open_rows(session_, attempt,
+                      "[Unbuilt Area] where " + property_key(session_, immovable_.active_property()));
         if (!rows.eof())
             for (const StoredArea& area : stored_areas)
                 sprUnbuiltArea.set_value(area_column, area.row, rows[area.stored_as].number());
@@ -233,15 +229,9 @@ void UnbuiltAreaPanel::LoadUnbuiltArea() {
 
 void UnbuiltAreaPanel::SaveUnbuiltArea() {
     procedure(session_, "frmImmovable - SaveUnbuiltArea", [this](const Attempt& attempt) {
-        const int property_no = immovable_.sprImmovable.active_column() - 1;
-        session_.SqlText = "Select * From [Unbuilt Area] where " + property_key(session_, property_no);
-        RowSet rows = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
-        if (rows.eof()) {
-            rows.add_new();
-            rows.set("AssesseeNo", session_.AssesseeNo);
-            rows.set("FY", session_.CurrentFY);
-            rows.set("AssetType", session_.asset_type());
-        }
+        const int property_no = immovable_.active_property();
+        RowSet rows =
+            open_or_add(session_, attempt, "[Unbuilt Area] where " + property_key(session_, property_no));
         rows.set("PropertyNo", property_no);
         for (const StoredArea& area : stored_areas)
             rows.set(area.stored_as, sprUnbuiltArea.value(area_column, area.row));

@@ -4,6 +4,7 @@
 #include "schedules/grid_keys.h"
 #include "schedules/places.h"
 #include "schedules/schedule_field.h"
+#include "session/table_rows.h"
 
 #include <array>
 
@@ -11,7 +12,6 @@ namespace levora::schedules {
 
 using session::Attempt;
 using session::RowSet;
-using session::RowSetUse;
 using widgets::CellDesign;
 
 namespace {
@@ -127,17 +127,13 @@ void UrbanLandSchedule::sprUrbanLand_KeyPress(char32_t character) {
 
 void UrbanLandSchedule::load(const Attempt& attempt) {
     sprUrbanLand.clear_data();
-    session_.SqlText = "Select * From [Urban Land] Where " + asset_key(session_);
-    RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
+    RowSet records = open_rows(session_, attempt, "[Urban Land] Where " + asset_key(session_));
     fill_rows(sprUrbanLand, fields, records, RowGrowth::as_needed);
     sprUrbanLand_Change(LandColumn::premises, -1);
 }
 
 void UrbanLandSchedule::save(const Attempt& attempt) {
-    session_.SqlText = "Delete From [Urban Land] Where " + asset_key(session_);
-    attempt([&] { session_.TaxDb.execute(session_.SqlText); });
-    session_.SqlText = "Select * From [Urban Land] Where " + asset_key(session_);
-    RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
+    RowSet records = open_emptied(session_, attempt, "[Urban Land] Where " + asset_key(session_));
     // Wanted: land whose debts reach its valuation is not stored; it adds no wealth.
     store_rows(attempt, session_, records, sprUrbanLand, fields,
                {.last_row = sprUrbanLand.data_rows(),

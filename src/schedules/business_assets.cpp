@@ -6,6 +6,7 @@
 #include "schedules/hand_over.h"
 #include "schedules/named_control.h"
 #include "schedules/schedule_field.h"
+#include "session/table_rows.h"
 #include "session/unread_rows.h"
 
 #include <array>
@@ -13,10 +14,8 @@
 namespace levora::schedules {
 
 using session::Attempt;
-using session::OverUnread;
 using session::procedure;
 using session::RowSet;
-using session::RowSetUse;
 using widgets::CellDesign;
 
 namespace {
@@ -136,8 +135,7 @@ void frmBusinessAssets::sprAssetOfBusiness_ButtonClicked(int row) {
 void frmBusinessAssets::LoadBusinessassets() {
     read_ = procedure(session_, "frmBusinessAssets - LoadBusinessassets", [this](const Attempt& attempt) {
         sprAssetOfBusiness.clear_data();
-        session_.SqlText = "Select * From BusinessAsset Where " + year_key(session_);
-        RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
+        RowSet records = open_rows(session_, attempt, "BusinessAsset Where " + year_key(session_));
         fill_rows(sprAssetOfBusiness, fields, records, RowGrowth::as_needed);
         for (int row = first_waiting_row; row <= last_waiting_row; ++row)
             if (sprAssetOfBusiness.value(BusinessColumn::individual, row) != 0)
@@ -148,11 +146,7 @@ void frmBusinessAssets::LoadBusinessassets() {
 
 void frmBusinessAssets::SaveBusinessAsset() {
     procedure(session_, "frmBusinessAssets - SaveBusinessAsset", [this](const Attempt& attempt) {
-        session_.SqlText = "Delete From BusinessAsset Where " + year_key(session_);
-        attempt([&] { session_.TaxDb.execute(session_.SqlText); });
-        session_.SqlText = "Select * From BusinessAsset Where " + year_key(session_);
-        RowSet records =
-            attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
+        RowSet records = open_emptied(session_, attempt, "BusinessAsset Where " + year_key(session_));
         store_rows(
             attempt, session_, records, sprAssetOfBusiness, fields,
             {.last_row = sprAssetOfBusiness.data_rows(),
@@ -163,10 +157,9 @@ void frmBusinessAssets::SaveBusinessAsset() {
 
 void frmBusinessAssets::cmdBusinessAssetSave_Click() {
     if (!read_) {
-        const OverUnread choice = ask_over_unread(session_, "frmBusinessAssets - SaveBusinessAsset",
-                                                  {{"BusinessAsset", year_key(session_)}});
-        if (choice == OverUnread::leave) cmdCancel_Click();
-        if (choice != OverUnread::save) return;
+        if (!saves_over_unread(session_, "frmBusinessAssets - SaveBusinessAsset",
+                               {{"BusinessAsset", year_key(session_)}}, [this] { cmdCancel_Click(); }))
+            return;
         read_ = true; // this screen stays loaded
     }
     SaveBusinessAsset();

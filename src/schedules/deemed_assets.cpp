@@ -6,6 +6,7 @@
 #include "schedules/grid_keys.h"
 #include "schedules/hand_over.h"
 #include "schedules/schedule_field.h"
+#include "session/table_rows.h"
 #include "session/unread_rows.h"
 
 #include <array>
@@ -15,10 +16,8 @@
 namespace levora::schedules {
 
 using session::Attempt;
-using session::OverUnread;
 using session::procedure;
 using session::RowSet;
-using session::RowSetUse;
 using widgets::CellDesign;
 
 namespace {
@@ -164,8 +163,7 @@ void frmDeemedAsset::sprDeemedAsset_ComboSelChange(int row) {
 
 void frmDeemedAsset::LoadDeemedAsset() {
     read_ = procedure(session_, "frmDeemedAsset - LoadDeemedAsset", [this](const Attempt& attempt) {
-        session_.SqlText = "Select * From DeemedAssetDetails Where " + year_key(session_);
-        RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
+        RowSet records = open_rows(session_, attempt, "DeemedAssetDetails Where " + year_key(session_));
         // Wanted: a thirteenth record goes into the total row, whose figures stay its own.
         fill_rows(sprDeemedAsset, fields, records, RowGrowth::none);
     });
@@ -173,11 +171,7 @@ void frmDeemedAsset::LoadDeemedAsset() {
 
 void frmDeemedAsset::SaveDeemedAsset() {
     procedure(session_, "frmDeemedAsset - SaveDeemedAsset", [this](const Attempt& attempt) {
-        session_.SqlText = "Delete From DeemedAssetDetails Where " + year_key(session_);
-        attempt([&] { session_.TaxDb.execute(session_.SqlText); });
-        session_.SqlText = "Select * From DeemedAssetDetails Where " + year_key(session_);
-        RowSet records =
-            attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
+        RowSet records = open_emptied(session_, attempt, "DeemedAssetDetails Where " + year_key(session_));
         // Wanted: by row numbers, also after a row was inserted; without an amount a row is dropped,
         // whatever its debt.
         store_rows(attempt, session_, records, sprDeemedAsset, fields,
@@ -188,12 +182,10 @@ void frmDeemedAsset::SaveDeemedAsset() {
 }
 
 void frmDeemedAsset::cmdDeemedAssetOk_Click() {
-    if (!read_) {
-        const OverUnread choice = ask_over_unread(session_, "frmDeemedAsset - SaveDeemedAsset",
-                                                  {{"DeemedAssetDetails", year_key(session_)}});
-        if (choice == OverUnread::leave) cmdDeemedAssetCancel_Click();
-        if (choice != OverUnread::save) return;
-    }
+    if (!read_ && !saves_over_unread(session_, "frmDeemedAsset - SaveDeemedAsset",
+                                     {{"DeemedAssetDetails", year_key(session_)}},
+                                     [this] { cmdDeemedAssetCancel_Click(); }))
+        return;
     SaveDeemedAsset();
     session_.DeemedAssetFlag = false;
     // Wanted: row 13 also where the total row has moved down.

@@ -5,6 +5,7 @@
 #include "schedules/grid_keys.h"
 #include "schedules/hand_over.h"
 #include "schedules/schedule_field.h"
+#include "session/table_rows.h"
 #include "session/unread_rows.h"
 
 #include <array>
@@ -13,10 +14,8 @@
 namespace levora::schedules {
 
 using session::Attempt;
-using session::OverUnread;
 using session::procedure;
 using session::RowSet;
-using session::RowSetUse;
 using widgets::CellDesign;
 
 namespace {
@@ -139,8 +138,7 @@ void frmAssetExempt::sheet_of_active_grid(session::SheetUse use) {
 void frmAssetExempt::LoadExemptedAsset() {
     read_ = procedure(session_, "frmAssetExempt - LoadExemptedAsset", [this](const Attempt& attempt) {
         sprAssetExempt.clear_data();
-        session_.SqlText = "Select * From AssetUnderExemption Where " + exempted_key(session_);
-        RowSet records = attempt([&] { return session_.TaxDb.open_rows(session_.SqlText); });
+        RowSet records = open_rows(session_, attempt, "AssetUnderExemption Where " + exempted_key(session_));
         fill_rows(sprAssetExempt, fields, records, RowGrowth::as_needed);
         sprAssetExempt_Change(ExemptColumn::net);
     });
@@ -148,11 +146,8 @@ void frmAssetExempt::LoadExemptedAsset() {
 
 void frmAssetExempt::SaveExemptedAsset() {
     procedure(session_, "frmAssetExempt - SaveExemptedAsset", [this](const Attempt& attempt) {
-        session_.SqlText = "Delete From AssetUnderExemption Where " + exempted_key(session_);
-        attempt([&] { session_.TaxDb.execute(session_.SqlText); });
-        session_.SqlText = "Select * From AssetUnderExemption Where " + exempted_key(session_);
         RowSet records =
-            attempt([&] { return session_.TaxDb.open_rows(session_.SqlText, RowSetUse::update); });
+            open_emptied(session_, attempt, "AssetUnderExemption Where " + exempted_key(session_));
         // Wanted: no row is skipped; a blank row between two others is stored as an empty record.
         store_rows(attempt, session_, records, sprAssetExempt, fields,
                    {.last_row = sprAssetExempt.data_rows(), .kept = {}, .asset_type = {}});
@@ -160,12 +155,9 @@ void frmAssetExempt::SaveExemptedAsset() {
 }
 
 void frmAssetExempt::cmdOK_Click() {
-    if (!read_) {
-        const OverUnread choice = ask_over_unread(session_, "frmAssetExempt - SaveExemptedAsset",
-                                                  {{"AssetUnderExemption", year_key(session_)}});
-        if (choice == OverUnread::leave) show_sheet();
-        if (choice != OverUnread::save) return;
-    }
+    if (!read_ && !saves_over_unread(session_, "frmAssetExempt - SaveExemptedAsset",
+                                     {{"AssetUnderExemption", year_key(session_)}}, [this] { show_sheet(); }))
+        return;
     SaveExemptedAsset();
     hand_over(computation::exempted_to_sheet, *this, session_.screens.load("frmWealthMain"));
     show_sheet();

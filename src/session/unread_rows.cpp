@@ -41,6 +41,13 @@ OverUnread ask_over_unread(Session& session, std::string_view name, const std::v
     return choice;
 }
 
+bool saves_over_unread(Session& session, std::string_view name, const std::vector<UnreadTable>& tables,
+                       const std::function<void()>& leave) {
+    const OverUnread choice = ask_over_unread(session, name, tables);
+    if (choice == OverUnread::leave) leave();
+    return choice == OverUnread::save;
+}
+
 OverUnread ask_over_unread(Session& session, const std::string& name) {
     const auto answer = session.desk.show_message(
         {.text = name +

@@ -2,6 +2,7 @@
 
 #include "session/session_state.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,6 +28,10 @@ enum class OverUnread {
 // dismissed leaves.
 OverUnread ask_over_unread(Session& session, std::string_view procedure,
                            const std::vector<UnreadTable>& tables);
+
+// Asks so, and lets the screen leave where the person chooses that. True where the save goes on.
+bool saves_over_unread(Session& session, std::string_view procedure, const std::vector<UnreadTable>& tables,
+                       const std::function<void()>& leave);
 
 // The same question about anything else that could not be read, by its name.
 OverUnread ask_over_unread(Session& session, const std::string& name);
