@@ -10,6 +10,7 @@
 #include "desktop/spin_pair.h"
 #include "widgets/fields.h"
 #include "widgets/grid.h"
+#include "widgets/typed_control.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -336,23 +337,23 @@ std::unique_ptr<Binding> bind(widgets::Control& control, QWidget* widget, Acts& 
     case ControlKind::column_list:
         return bind_column_list(control, widget, acts);
     case ControlKind::tick_box:
-        return tie<TickBinding, QCheckBox>(static_cast<widgets::TickBox&>(control), widget, acts, history);
+        return tie<TickBinding, QCheckBox>(as<widgets::TickBox>(control), widget, acts, history);
     case ControlKind::option:
-        return tie<OptionBinding, QRadioButton>(static_cast<widgets::OptionButton&>(control), widget, acts);
+        return tie<OptionBinding, QRadioButton>(as<widgets::OptionButton>(control), widget, acts);
     case ControlKind::button:
-        return tie<ButtonBinding, QPushButton>(static_cast<widgets::Button&>(control), widget, acts);
+        return tie<ButtonBinding, QPushButton>(as<widgets::Button>(control), widget, acts);
     case ControlKind::label:
-        return tie<LabelBinding, QLabel>(static_cast<widgets::Label&>(control), widget);
+        return tie<LabelBinding, QLabel>(as<widgets::Label>(control), widget);
     case ControlKind::frame:
-        return tie<FrameBinding, QWidget>(static_cast<widgets::Frame&>(control), widget);
+        return tie<FrameBinding, QWidget>(as<widgets::Frame>(control), widget);
     case ControlKind::tabs:
-        return tie<TabsBinding, QTabWidget>(static_cast<widgets::Tabs&>(control), widget, acts);
+        return tie<TabsBinding, QTabWidget>(as<widgets::Tabs>(control), widget, acts);
     case ControlKind::spin_buttons:
-        return tie<SpinBinding, SpinPair>(static_cast<widgets::SpinButtons&>(control), widget, acts);
+        return tie<SpinBinding, SpinPair>(as<widgets::SpinButtons>(control), widget, acts);
     case ControlKind::grid:
-        return tie<GridBinding, GridView>(static_cast<widgets::Grid&>(control), widget, acts);
+        return tie<GridBinding, GridView>(as<widgets::Grid>(control), widget, acts);
     case ControlKind::timer:
-        return std::make_unique<TimerBinding>(static_cast<widgets::Timer&>(control), acts);
+        return std::make_unique<TimerBinding>(as<widgets::Timer>(control), acts);
     case ControlKind::menu:
     case ControlKind::menu_item:
         return nullptr; // made when it pops up

@@ -4,6 +4,7 @@
 #include "desktop/edit_history.h"
 #include "desktop/qt_text.h"
 #include "widgets/fields.h"
+#include "widgets/typed_control.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -314,7 +315,7 @@ template <class Kind, class Tied, class WidgetKind, class... More>
 std::unique_ptr<Binding> tie(widgets::Control& control, QWidget* widget, More&... more) {
     auto* right = qobject_cast<WidgetKind*>(widget);
     if (!right) return nullptr;
-    return std::make_unique<Tied>(static_cast<Kind&>(control), right, more...);
+    return std::make_unique<Tied>(as<Kind>(control), right, more...);
 }
 
 } // namespace

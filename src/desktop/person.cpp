@@ -2,6 +2,7 @@
 
 #include "widgets/fields.h"
 #include "widgets/grid.h"
+#include "widgets/typed_control.h"
 
 namespace levora::desktop {
 
@@ -32,15 +33,15 @@ bool replace_choice(widgets::ListField& list, const std::string& text) {
 std::string text_at(const widgets::Control& control, int column, int row) {
     switch (control.kind()) {
     case ControlKind::text_field:
-        return static_cast<const widgets::TextField&>(control).text();
+        return as<widgets::TextField>(control).text();
     case ControlKind::masked_field:
-        return static_cast<const widgets::MaskedField&>(control).text();
+        return as<widgets::MaskedField>(control).text();
     case ControlKind::list_field:
-        return static_cast<const widgets::ListField&>(control).text();
+        return as<widgets::ListField>(control).text();
     case ControlKind::tick_box:
-        return static_cast<const widgets::TickBox&>(control).ticked() ? "1" : "0";
+        return as<widgets::TickBox>(control).ticked() ? "1" : "0";
     case ControlKind::grid: {
-        const auto& grid = static_cast<const widgets::Grid&>(control);
+        const auto& grid = as<widgets::Grid>(control);
         if (column > grid.columns() || row > grid.rows()) return {};
         return grid.text(column, row);
     }
@@ -52,15 +53,15 @@ std::string text_at(const widgets::Control& control, int column, int row) {
 bool replace_text(widgets::Control& control, int column, int row, const std::string& text) {
     switch (control.kind()) {
     case ControlKind::text_field:
-        return static_cast<widgets::TextField&>(control).type(text);
+        return as<widgets::TextField>(control).type(text);
     case ControlKind::masked_field:
-        return static_cast<widgets::MaskedField&>(control).type(text);
+        return as<widgets::MaskedField>(control).type(text);
     case ControlKind::list_field:
-        return replace_choice(static_cast<widgets::ListField&>(control), text);
+        return replace_choice(as<widgets::ListField>(control), text);
     case ControlKind::tick_box:
-        return static_cast<widgets::TickBox&>(control).click();
+        return as<widgets::TickBox>(control).click();
     case ControlKind::grid:
-        return replace_cell(static_cast<widgets::Grid&>(control), column, row, text);
+        return replace_cell(as<widgets::Grid>(control), column, row, text);
     default:
         return false;
     }

@@ -9,6 +9,7 @@
 #include "desktop/qt_text.h"
 #include "widgets/fields.h"
 #include "widgets/grid.h"
+#include "widgets/typed_control.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -123,11 +124,8 @@ void ScreenWindow::tie(Control& control) {
 
 std::string ScreenWindow::frame_words(const QWidget& widget) const {
     for (const QWidget* around = widget.parentWidget(); around; around = around->parentWidget()) {
-        const Control* frame = form_->find(from_qt(around->objectName()));
-        if (frame && frame->kind() == ControlKind::frame)
-            if (const std::string& caption = static_cast<const widgets::Frame*>(frame)->caption();
-                !caption.empty())
-                return caption;
+        const auto* frame = widgets::as_if<widgets::Frame>(form_->find(from_qt(around->objectName())));
+        if (frame && !frame->caption().empty()) return frame->caption();
     }
     return form_->caption();
 }
@@ -264,9 +262,8 @@ void ScreenWindow::popup_wanted(const Form& form, const widgets::Menu& menu) {
     popup->setAttribute(Qt::WA_DeleteOnClose);
     popup->setAccessibleName(plain_words(menu.caption()));
     for (Control* control : form.controls()) {
-        if (control->kind() != ControlKind::menu_item) continue;
-        auto* item = static_cast<widgets::MenuItem*>(control);
-        if (&item->menu() != &menu || !item->visible()) continue;
+        auto* item = widgets::as_if<widgets::MenuItem>(control);
+        if (!item || &item->menu() != &menu || !item->visible()) continue;
         QAction* action = popup->addAction(to_qt(item->caption()));
         action->setEnabled(item->enabled());
         connect(action, &QAction::triggered, this, [this, item] {
@@ -290,8 +287,8 @@ bool ScreenWindow::act(const std::function<void()>& what) {
     if (!form_) return false;
     bool timer_runs = false;
     for (const Control* control : form_->controls())
-        if (control->kind() == ControlKind::timer)
-            timer_runs = timer_runs || static_cast<const widgets::Timer*>(control)->running();
+        if (const auto* timer = widgets::as_if<widgets::Timer>(control))
+            timer_runs = timer_runs || timer->running();
     for (const auto& binding : bindings_)
         binding->slide(timer_runs ? Binding::Sliding::yes : Binding::Sliding::no);
     share_access_keys();

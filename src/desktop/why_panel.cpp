@@ -6,6 +6,7 @@
 #include "desktop/windows.h"
 #include "widgets/fields.h"
 #include "widgets/grid.h"
+#include "widgets/typed_control.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -38,9 +39,8 @@ QLabel* add_words(QVBoxLayout& layout, const QString& words, const char* kind) {
 }
 
 Explanation explain_place(const widgets::Control& control) {
-    if (control.kind() != widgets::ControlKind::grid) return explain(control);
-    const auto& grid = static_cast<const widgets::Grid&>(control);
-    return explain(grid, grid.active_column(), grid.active_row());
+    const auto* grid = widgets::as_if<widgets::Grid>(&control);
+    return grid ? explain(*grid, grid->active_column(), grid->active_row()) : explain(control);
 }
 
 // Where on the screen the figure stands.
@@ -57,7 +57,7 @@ void choose_tabs(ScreenWindow& window, const QWidget& widget) {
         QWidget* stack = page->parentWidget();
         auto* pages = stack ? qobject_cast<QTabWidget*>(stack->parentWidget()) : nullptr;
         if (!pages || !window.attached()) continue;
-        auto* tabs = dynamic_cast<widgets::Tabs*>(window.form()->find(from_qt(pages->objectName())));
+        auto* tabs = widgets::as_if<widgets::Tabs>(window.form()->find(from_qt(pages->objectName())));
         const int tab = pages->indexOf(page);
         if (tabs && tab >= 0 && tab != tabs->tab()) window.act([tabs, tab] { tabs->choose(tab); });
     }
@@ -73,13 +73,12 @@ bool press(const Explanation::Way::Opener& opener, Windows& windows) {
     if (!is_open(window)) return false;
     widgets::Control* control = window->form()->find(opener.control);
     if (!control) return false;
-    if (control->kind() == widgets::ControlKind::button) {
-        window->act([control] { static_cast<widgets::Button*>(control)->click(); });
-    } else if (control->kind() == widgets::ControlKind::grid) {
-        window->act([control, &opener] {
-            auto& grid = static_cast<widgets::Grid&>(*control);
-            grid.set_active(opener.column > 0 ? opener.column : grid.active_column(), opener.row);
-            grid.press(grid.active_column(), grid.active_row());
+    if (auto* button = widgets::as_if<widgets::Button>(control)) {
+        window->act([button] { button->click(); });
+    } else if (auto* grid = widgets::as_if<widgets::Grid>(control)) {
+        window->act([grid, &opener] {
+            grid->set_active(opener.column > 0 ? opener.column : grid->active_column(), opener.row);
+            grid->press(grid->active_column(), grid->active_row());
         });
     }
     return true;
@@ -107,15 +106,14 @@ public:
         const QPoint at = static_cast<QHelpEvent*>(event)->pos();
         QRect place = widget->rect();
         Explanation why;
-        if (found->second->kind() == widgets::ControlKind::grid) {
-            const auto& grid = static_cast<const widgets::Grid&>(*found->second);
+        if (const auto* grid = widgets::as_if<widgets::Grid>(found->second)) {
             auto& view = static_cast<GridView&>(*widget->parentWidget());
             const QModelIndex index = view.indexAt(at);
             const int column = index.column() + 1;
             const int row = index.row() + 1;
-            if (!index.isValid() || column > grid.columns() || row > grid.rows()) return false;
-            if (!grid.note(column, row).empty()) return false;
-            why = explain(grid, column, row);
+            if (!index.isValid() || column > grid->columns() || row > grid->rows()) return false;
+            if (!grid->note(column, row).empty()) return false;
+            why = explain(*grid, column, row);
             place = view.visualRect(index);
         } else {
             why = explain(*found->second);

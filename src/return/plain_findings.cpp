@@ -2,6 +2,7 @@
 
 #include "return/sheet_fields.h"
 #include "widgets/date_text.h"
+#include "widgets/typed_control.h"
 #include "widgets/value_text.h"
 
 #include <cmath>
@@ -207,11 +208,11 @@ private:
     void texts() {
         constexpr std::string_view words = "holds \"<\", with which the file can't be read";
         for (const widgets::Control* each : form_.controls()) {
-            if (const auto* field = dynamic_cast<const TextField*>(each)) {
+            if (const auto* field = widgets::as_if<TextField>(each)) {
                 if (field->text().find('<') != std::string::npos) add(*field, std::string(words));
-            } else if (const auto* mask = dynamic_cast<const widgets::MaskedField*>(each)) {
+            } else if (const auto* mask = widgets::as_if<widgets::MaskedField>(each)) {
                 if (mask->text().find('<') != std::string::npos) add(*mask, std::string(words));
-            } else if (const auto* grid = dynamic_cast<const Grid*>(each)) {
+            } else if (const auto* grid = widgets::as_if<Grid>(each)) {
                 for (int row = 1; row <= grid->data_rows(); ++row)
                     for (int column = 1; column <= grid->columns(); ++column)
                         if (grid->text(column, row).find('<') != std::string::npos)

@@ -1,5 +1,6 @@
 #include "return/return_check_screen.h"
 
+#include "widgets/typed_control.h"
 #include "widgets/value_text.h"
 
 #include <cstddef>
@@ -50,7 +51,7 @@ void frmReturnCheck::go_there() {
     session_.screens.show("frmFormBA");
     if (const int tab = form->tab_of(*control); tab >= 0) form->SSTab1.set_tab(tab);
     if (control == &form->sprPreciousStone) form->frPreciousStone.set_visible(true);
-    if (auto* const grid = dynamic_cast<widgets::Grid*>(control); grid && finding.column > 0)
+    if (auto* const grid = widgets::as_if<widgets::Grid>(control); grid && finding.column > 0)
         grid->set_active(finding.column, finding.row);
     if (control->enabled() && control->visible()) control->set_focus();
 }

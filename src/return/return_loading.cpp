@@ -1,6 +1,7 @@
 #include "return/form_ba_reader.h"
 #include "return/return_screen.h"
 #include "session/common_services.h"
+#include "widgets/typed_control.h"
 #include "widgets/value_text.h"
 
 #include <optional>
@@ -25,7 +26,7 @@ void frmFormBA::ClearFormBA() {
     // Wanted: by the name. TotalValMovableProp is a text field too and stays.
     for (widgets::Control* each : controls())
         if (equal_without_case(std::string_view(each->name()).substr(0, 3), "TXT"))
-            if (auto* const field = dynamic_cast<widgets::TextField*>(each)) field->set_text("");
+            if (auto* const field = widgets::as_if<widgets::TextField>(each)) field->set_text("");
     for (widgets::Grid* grid :
          {&sprScheduleBTP, &sprImmovableProperty, &sprMovableProperty, &sprJewellery, &sprPreciousStone,
           &sprAssetInterest, &sprAssetsClaimedExempt, &sprScheduleOPR})

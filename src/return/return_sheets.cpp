@@ -1,5 +1,6 @@
 #include "return/return_screen.h"
 #include "session/grid_sheet.h"
+#include "widgets/typed_control.h"
 #include "widgets/value_text.h"
 
 #include <optional>
@@ -50,7 +51,7 @@ Grid* frmFormBA::prepare_sheet() {
     for (const ScheduleLine& each : schedule_lines) {
         if (each.grid != grid->name()) continue;
         header += each.line;
-        if (const auto* total = dynamic_cast<const widgets::TextField*>(find(each.total_field)))
+        if (const auto* total = widgets::as_if<widgets::TextField>(find(each.total_field)))
             footer = footer_of(total->text());
     }
     // Wanted: here the words and the amount are added as numbers, which fails: no sheet, no message.

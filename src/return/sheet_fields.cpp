@@ -1,6 +1,7 @@
 #include "return/sheet_fields.h"
 
 #include "widgets/failure.h"
+#include "widgets/typed_control.h"
 
 #include <string>
 
@@ -10,7 +11,7 @@ namespace {
 
 template <class Field> const Field& field_of_sheet(const session::Session& session, std::string_view name) {
     const widgets::Form* sheet = session.screens.find("frmWealthMain");
-    const auto* field = sheet ? dynamic_cast<const Field*>(sheet->find(name)) : nullptr;
+    const auto* field = sheet ? widgets::as_if<Field>(sheet->find(name)) : nullptr;
     if (!field)
         throw Failure(error_number::object_not_set, "frmWealthMain." + std::string(name) + " is not there");
     return *field;

@@ -2,19 +2,13 @@
 
 #include "widgets/fields.h"
 #include "widgets/form.h"
+#include "widgets/typed_control.h"
 
 namespace levora::script {
 
 using namespace widgets;
 
 namespace {
-
-template <class T> const T& as(const Control& control) {
-    return static_cast<const T&>(control);
-}
-template <class T> T& as(Control& control) {
-    return static_cast<T&>(control);
-}
 
 constexpr int value_position = 3; // of an assignment
 

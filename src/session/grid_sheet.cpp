@@ -1,5 +1,7 @@
 #include "session/grid_sheet.h"
 
+#include "widgets/typed_control.h"
+
 namespace levora::session {
 
 namespace {
@@ -7,9 +9,7 @@ constexpr int sheet_margin = 200; // in the print unit of grids
 }
 
 widgets::Grid* active_grid(const widgets::Form& form) {
-    widgets::Control* active = form.active_control();
-    if (!active || active->kind() != widgets::ControlKind::grid) return nullptr;
-    return static_cast<widgets::Grid*>(active);
+    return widgets::as_if<widgets::Grid>(form.active_control());
 }
 
 bool show_grid_sheet(Session& session, widgets::Grid& grid, SheetUse use) {

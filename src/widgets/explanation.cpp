@@ -3,6 +3,7 @@
 #include "widgets/fields.h"
 #include "widgets/form.h"
 #include "widgets/screens.h"
+#include "widgets/typed_control.h"
 
 #include <cmath>
 
@@ -20,34 +21,25 @@ std::string in_brackets(std::string_view words) {
     return words.empty() ? std::string() : " (" + std::string(words) + ")";
 }
 
-const Grid* as_grid(const Control& control) {
-    return control.kind() == ControlKind::grid ? static_cast<const Grid*>(&control) : nullptr;
-}
-
 const std::string& text_of(const Control& control, int column, int row) {
     static const std::string none;
-    if (const Grid* grid = as_grid(control)) return grid->text(column, row);
-    switch (control.kind()) {
-    case ControlKind::text_field:
-        return static_cast<const TextField&>(control).text();
-    case ControlKind::masked_field:
-        return static_cast<const MaskedField&>(control).text();
-    case ControlKind::list_field:
-        return static_cast<const ListField&>(control).text();
-    default:
-        return none;
-    }
+    if (const Grid* grid = as_if<Grid>(&control)) return grid->text(column, row);
+    if (const auto* field = as_if<TextField>(&control)) return field->text();
+    if (const auto* mask = as_if<MaskedField>(&control)) return mask->text();
+    if (const auto* list = as_if<ListField>(&control)) return list->text();
+    return none;
 }
 
 bool is_locked(const Control& control, int column, int row) {
-    if (const Grid* grid = as_grid(control)) return grid->cell_locked(column, row);
-    return control.kind() == ControlKind::text_field && static_cast<const TextField&>(control).locked();
+    if (const Grid* grid = as_if<Grid>(&control)) return grid->cell_locked(column, row);
+    const auto* field = as_if<TextField>(&control);
+    return field && field->locked();
 }
 
 // What a rule reads there: a comma ends a typed figure.
 std::string figure_read(const Control& control, int column, int row) {
     const std::string& text = text_of(control, column, row);
-    const Grid* grid = as_grid(control);
+    const Grid* grid = as_if<Grid>(&control);
     if (grid && grid->cell_kind(column, row) == CellKind::percent) return text.empty() ? "0%" : text;
     if (grid) return grouped(grid->value(column, row));
     const double read = val(text);
@@ -62,7 +54,7 @@ public:
         : control_(control), column_(column), row_(row), form_(control.form()) {}
 
     Explanation tell() {
-        if (const Grid* grid = as_grid(control_))
+        if (const Grid* grid = as_if<Grid>(&control_))
             if (const std::optional<GridFormula> formula = grid->formula(column_, row_)) {
                 by_formula(*grid, *formula);
                 return std::move(told_);
@@ -95,7 +87,7 @@ private:
 
     // Of a field that holds words, the words.
     [[nodiscard]] std::string titled_text() const {
-        if (as_grid(control_) || strict_number(text())) return titled_figure();
+        if (as_if<Grid>(&control_) || strict_number(text())) return titled_figure();
         return title() + (is_empty() ? "" : " " + text());
     }
 
@@ -107,7 +99,7 @@ private:
 
     // As the place would show it.
     [[nodiscard]] std::string as_shown(double result) const {
-        const Grid* grid = as_grid(control_);
+        const Grid* grid = as_if<Grid>(&control_);
         if (!grid) return grouped(result);
         const CellDesign& design = grid->design(column_, row_);
         if (design.kind == CellKind::percent)
@@ -150,7 +142,7 @@ private:
                                std::string(given.opener)}});
         const Form* from = form_.screens().find(given.from_screen);
         const Control* source = from ? from->find(given.from_control) : nullptr;
-        if (!source || (as_grid(*source) && given.from_row == 0)) return;
+        if (!source || (as_if<Grid>(source) && given.from_row == 0)) return;
         const std::string there = figure_read(*source, given.from_column, given.from_row);
         if (there != shown()) told_.sentence += ", which is " + there + " now and has not been handed over";
     }
@@ -200,7 +192,7 @@ private:
             (void)linked(control, 0, 0, source.unit.empty() ? name_of_whole(control) : words);
             return words;
         }
-        if (const Grid* grid = as_grid(control)) return told_run(*grid, source);
+        if (const Grid* grid = as_if<Grid>(&control)) return told_run(*grid, source);
         if (control.kind() == ControlKind::masked_field) return linked(control, 0, 0, text_of(control, 0, 0));
         if (source.reading == Reading::shown) return linked(control, 0, 0, name_of(control, 0, 0));
         return linked(control, 0, 0, name_of(control, 0, 0) + " " + figure_read(control, 0, 0));

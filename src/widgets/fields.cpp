@@ -2,6 +2,7 @@
 
 #include "widgets/failure.h"
 #include "widgets/form.h"
+#include "widgets/typed_control.h"
 #include "widgets/utf8.h"
 
 #include <algorithm>
@@ -106,9 +107,8 @@ bool OptionButton::click() {
 
 void OptionButton::clear_others() {
     for (Control* each : form().controls()) {
-        if (each == this || each->kind() != ControlKind::option) continue;
-        auto& other = static_cast<OptionButton&>(*each);
-        if (other.group_ == group_) other.set_value(false);
+        auto* other = as_if<OptionButton>(each);
+        if (other && other != this && other->group_ == group_) other->set_value(false);
     }
 }
 

@@ -2,11 +2,11 @@
 
 #include "widgets/fields.h"
 #include "widgets/form.h"
+#include "widgets/typed_control.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <stdexcept>
 
 namespace levora::widgets {
 
@@ -38,9 +38,8 @@ private:
 };
 
 double figure_of_field(const Control& field, Reading reading) {
-    if (field.kind() == ControlKind::list_field) return static_cast<const ListField&>(field).value();
-    if (field.kind() != ControlKind::text_field) throw std::logic_error(field.name() + " holds no figure");
-    const auto& text_field = static_cast<const TextField&>(field);
+    if (const auto* list = as_if<ListField>(&field)) return list->value();
+    const auto& text_field = as<TextField>(field);
     return reading == Reading::whole_text ? to_double(text_field.text()) : text_field.value();
 }
 
@@ -49,24 +48,22 @@ double figure_of_cell(const Grid& grid, int column, int row, Reading reading) {
 }
 
 void read(const Source& source, int column, int row, Inputs& inputs) {
-    const ControlKind kind = source.control->kind();
     const bool stands_there = !source.measure && !source.rule && source.reading == Reading::number;
-    if (stands_there && kind == ControlKind::text_field) {
-        inputs.add(static_cast<const TextField&>(*source.control).value());
+    if (const auto* field = stands_there ? as_if<TextField>(source.control) : nullptr) {
+        inputs.add(field->value());
     } else if (source.measure) {
         inputs.add(source.measure(source.control->form()));
     } else if (source.reading == Reading::shown) {
         return;
     } else if (source.rule) {
         inputs.add(source.rule->figure(column, row));
-    } else if (kind != ControlKind::grid) {
+    } else if (const auto* grid = as_if<Grid>(source.control); !grid) {
         inputs.add(figure_of_field(*source.control, source.reading));
     } else {
-        const auto& grid = static_cast<const Grid&>(*source.control);
         const CellRange run = run_now(source, column, row);
         for (int r = run.first_row; r <= run.last_row; ++r)
             for (int c = run.first_column; c <= run.last_column; ++c)
-                inputs.add(figure_of_cell(grid, c, r, source.reading));
+                inputs.add(figure_of_cell(*grid, c, r, source.reading));
     }
 }
 
@@ -87,7 +84,7 @@ int bound_now(int bound, int own, const Grid& grid, bool of_rows) {
 std::string_view without_number(std::string_view words) {
     if (words.starts_with("(")) {
         const std::size_t end = words.find(") ");
-        if (end != std::string_view::npos && end < 5) return words.substr(end + 2);
+        if (end < 5) return words.substr(end + 2); // none is far past that
     }
     if (words.size() > 2 && words[1] == '.' && words[2] == ' ') return words.substr(3);
     return words;
@@ -103,7 +100,7 @@ Source::Source(const Rule& unrounded)
 }
 
 CellRange run_now(const Source& source, int column, int row) {
-    const auto& grid = static_cast<const Grid&>(*source.control);
+    const auto& grid = as<Grid>(*source.control);
     const CellRange& told = source.cells;
     return {bound_now(told.first_column, column, grid, false), bound_now(told.first_row, row, grid, true),
             bound_now(told.last_column, column, grid, false), bound_now(told.last_row, row, grid, true)};
@@ -111,8 +108,9 @@ CellRange run_now(const Source& source, int column, int row) {
 
 bool Rule::holds_for(const Control& control, int column, int row) const {
     if (target.control != &control) return false;
-    if (control.kind() != ControlKind::grid) return true;
-    const CellRange run = run_now({static_cast<const Grid&>(control), target.cells}, column, row);
+    const auto* grid = as_if<Grid>(&control);
+    if (!grid) return true;
+    const CellRange run = run_now({*grid, target.cells}, column, row);
     return column >= run.first_column && column <= run.last_column && row >= run.first_row &&
            row <= run.last_row;
 }
@@ -126,14 +124,14 @@ double Rule::figure(int column, int row) const {
 }
 
 void Rule::work_out(int column, int row) const {
-    if (target.control->kind() == ControlKind::grid) {
+    if (auto* grid = as_if<Grid>(target.control)) {
         const double result = figure(column, row);
-        if (!std::isnan(result)) static_cast<Grid&>(*target.control).set_value(column, row, result);
+        if (!std::isnan(result)) grid->set_value(column, row, result);
         return;
     }
-    auto& field = static_cast<TextField&>(*target.control);
+    auto& field = as<TextField>(*target.control);
     if (write == Write::text) {
-        field.set_text(static_cast<const TextField&>(*sources.front().control).text());
+        field.set_text(as<TextField>(*sources.front().control).text());
         return;
     }
     const double result = figure();
@@ -144,7 +142,7 @@ void Rule::work_out(int column, int row) const {
 }
 
 void Rule::work_out_step_by_step() const {
-    auto& field = static_cast<TextField&>(*target.control);
+    auto& field = as<TextField>(*target.control);
     field.set_text("0");
     Inputs inputs;
     for (const Source& source : sources)
@@ -187,9 +185,9 @@ std::string Rules::name_of(const Control& control, int column, int row) const {
         if (each.control == &control && (each.column == 0 || each.column == column) &&
             (each.row == 0 || each.row == row))
             return std::string(each.name);
-    if (control.kind() != ControlKind::grid) return short_words(control.label);
-    const auto& grid = static_cast<const Grid&>(control);
-    return short_words(called_by_rows(control) ? grid.text(1, row) : grid.header(column));
+    const auto* grid = as_if<Grid>(&control);
+    if (!grid) return short_words(control.label);
+    return short_words(called_by_rows(control) ? grid->text(1, row) : grid->header(column));
 }
 
 void Rules::open_with(std::initializer_list<const Control*> panel, const Control& opener, int row) {

@@ -1,8 +1,12 @@
 #include "widgets/test_form.h"
 
 #include "widgets/failure.h"
+#include "widgets/rules.h"
+#include "widgets/typed_control.h"
 
 #include <gtest/gtest.h>
+
+#include <stdexcept>
 
 using namespace levora;
 using namespace levora::widgets;
@@ -122,6 +126,17 @@ TEST_F(FieldsTest, DisabledThingsCannotBeActedUpon) {
     EXPECT_EQ(form.tabs.tab(), 1);
     EXPECT_FALSE(form.timer.tick());
     EXPECT_EQ(form.take_events(), "");
+}
+
+TEST_F(FieldsTest, AControlOfAnotherKindIsRefusedRatherThanMisread) {
+    EXPECT_EQ(as_if<TextField>(form.find("grid")), nullptr);
+    EXPECT_EQ(as_if<Grid>(form.find("grid")), &form.grid);
+    EXPECT_EQ(as_if<Grid>(form.find("not there")), nullptr);
+    const Rule copies_a_grid{
+        .target = form.txtTotal, .sources = {form.grid}, .how = {}, .write = Write::text};
+    EXPECT_THROW(copies_a_grid.work_out(), std::logic_error);
+    const Rule sums_a_button{.target = form.txtTotal, .sources = {form.cmdOK}, .how = sum_formula};
+    EXPECT_THROW(sums_a_button.work_out(), std::logic_error);
 }
 
 } // namespace
