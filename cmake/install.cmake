@@ -58,6 +58,8 @@ set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # QUiLoader and the platform plugin are loaded at run time; paper needs both font families.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6uitools6, libqt6svg6, fonts-liberation, fonts-dejavu-core")
+# Names are kept in any script; those in Devanagari need a font of it.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-lohit-deva")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_STRIP_FILES ON)
 configure_file(share/debian/postrm.in ${CMAKE_BINARY_DIR}/postrm @ONLY FILE_PERMISSIONS

@@ -47,6 +47,16 @@ std::shared_ptr<const paper::Pages> pages_of(const document::Report& report, QWi
     });
 }
 
+// A font is missing for some of the words: whoever sees gaps or boxes should know what helps.
+void tell_missing(ScreenWindow& window, const paper::Pages& pages) {
+    const int missing = pages.characters_without_font();
+    if (missing == 0) return;
+    window.tell(
+        QObject::tr("No font here has %1 of the characters, which can't be shown or printed: install a "
+                    "font for them, as fonts-lohit-deva for Devanagari.")
+            .arg(missing));
+}
+
 void tell_failure(widgets::Desk& desk, const Failure& failure) {
     desk.show_message(
         {failure.what(), "Levora Wealth Tax", widgets::Icon::exclamation, {widgets::Answer::ok}});
@@ -99,7 +109,10 @@ void add_report_pages(ScreenWindow& window, DesktopDesk* desk) {
         const auto report = static_cast<const reports::frmRepPreview*>(window.form())->report();
         const QPointer<QWidget> there(&window);
         try {
-            if (report) show_in(*view, pages_of(*report, &window), desk);
+            if (!report) return;
+            const auto pages = pages_of(*report, &window);
+            show_in(*view, pages, desk);
+            tell_missing(window, *pages);
         } catch (const Cancelled&) {
             // Nothing to show. The window may have gone by itself meanwhile.
             if (there) QMetaObject::invokeMethod(there, &QWidget::close, Qt::QueuedConnection);
@@ -112,7 +125,9 @@ void add_report_pages(ScreenWindow& window, DesktopDesk* desk) {
 void add_sheet_pages(ScreenWindow& window, const std::shared_ptr<const paper::Pages>& pages,
                      DesktopDesk* desk) {
     auto* view = window.findChild<PageView*>();
-    if (view && pages) show_in(*view, pages, desk);
+    if (!view || !pages) return;
+    show_in(*view, pages, desk);
+    tell_missing(window, *pages);
 }
 
 void print_report(const document::Report& report, DesktopDesk& desk) {

@@ -3,8 +3,10 @@
 #include "document/report.h"
 #include "paper/report_layout.h"
 
+#include <QFontMetrics>
 #include <QPainter>
 #include <QPen>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -109,6 +111,23 @@ void Pages::paint(QPainter& painter, int page, double scale) const {
         for (const Mark& mark : marks)
             if (is_ground(mark) == grounds) std::visit(painting, mark);
     painter.restore();
+}
+
+int Pages::characters_without_font() const {
+    constexpr char32_t last_latin = 0x24F; // which the fonts of paper have
+    QSet<char32_t> seen;
+    int missing = 0;
+    for (const Marks& marks : pages_)
+        for (const Mark& mark : marks) {
+            const auto* words = std::get_if<TextMark>(&mark);
+            if (!words) continue;
+            for (const char32_t character : words->text.toUcs4()) {
+                if (character <= last_latin || seen.contains(character)) continue;
+                seen.insert(character);
+                if (!QFontMetrics(font_of(words->font)).inFontUcs4(character)) ++missing;
+            }
+        }
+    return missing;
 }
 
 std::vector<Pages::Found> Pages::find(const QString& text) const {

@@ -44,6 +44,9 @@ public:
         QRectF area;
     };
     [[nodiscard]] std::vector<Found> find(const QString& text) const;
+    // How many different characters of the texts no font of this machine has: they come out empty or as
+    // boxes.
+    [[nodiscard]] int characters_without_font() const;
 
 private:
     std::string title_;

@@ -108,6 +108,14 @@ TEST_F(PaperTest, SearchFindsWordsWithoutRegardToCaseWhereTheyStand) {
     EXPECT_TRUE(Pages(report).find(QString()).empty());
 }
 
+TEST_F(PaperTest, CharactersThatNoFontHasAreCountedEachOnce) {
+    Report report = shipped("FormBB");
+    EXPECT_EQ(Pages(report).characters_without_font(), 0);
+    // The last place of the private use plane, twice; the rupee sign is found in the second family.
+    report.set_text("txtReprName", "\U0010FFFD \u20B9 \U0010FFFD");
+    EXPECT_EQ(Pages(report).characters_without_font(), 1);
+}
+
 TEST_F(PaperTest, APrinterGetsItsPagesInAllCopiesAndNoneWhenNoneAreAsked) {
     ensure_application();
     const Pages pages(shipped("FormBB")); // three pages
