@@ -179,6 +179,26 @@ const FieldCase field_cases[] = {
      "<FBAMain:SchOtherProperties><FBAMain:DepositBank>1<![CDATA[<2>]]>&amp;<!-- 9 -->3"
      "</FBAMain:DepositBank></FBAMain:SchOtherProperties>",
      "txtMovTotalDeposit", "1<2>&3"},
+    {"the code page of the document",
+     "<FBAMain:Address><FormCommon:TownCityDistrict>\xE9 \x80"
+     "</FormCommon:TownCityDistrict></FBAMain:Address>",
+     "txtTown", "\u00E9 \u20AC"},
+    {"UTF-8, as other programs write it",
+     "<FBAMain:Address><FormCommon:TownCityDistrict>\u00E9\u20AC\U0001F600"
+     "</FormCommon:TownCityDistrict></FBAMain:Address>",
+     "txtTown", "\u00E9\u20AC\U0001F600"},
+    {"what is UTF-8 by its looks only: too long",
+     "<FBAMain:Address><FormCommon:TownCityDistrict>\xE0\x80\xAF</FormCommon:TownCityDistrict></"
+     "FBAMain:Address>",
+     "txtTown", "\u00E0\u20AC\u00AF"},
+    {"half a pair",
+     "<FBAMain:Address><FormCommon:TownCityDistrict>\xED\xA0\x80</FormCommon:TownCityDistrict>"
+     "</FBAMain:Address>",
+     "txtTown", "\u00ED\u00A0\u20AC"},
+    {"beyond the last",
+     "<FBAMain:Address><FormCommon:TownCityDistrict>\xF4\xA0\xA0\xA0 \xF5"
+     "</FormCommon:TownCityDistrict></FBAMain:Address>",
+     "txtTown", "\u00F4\u00A0\u00A0\u00A0 \u00F5"},
     {"wanted: the total of firms is the grid's, whatever the file says",
      "<FBAMain:SchFirmAop><FBAMain:ValOfAssesseeFirmAsset>9</FBAMain:ValOfAssesseeFirmAsset>"
      "</FBAMain:SchFirmAop><FBAMain:TotalValFirmAssets>500</FBAMain:TotalValFirmAssets>",

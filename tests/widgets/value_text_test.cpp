@@ -31,6 +31,7 @@ TEST(ValueTextTest, ValReadsTheLeadingNumber) {
         {"a comma ends it", "1,00,000", 1},
         {"a second point ends it", "1.2.3", 1.2},
         {"signs", "-4.5", -4.5},
+        {"a plus in front", "+7", 7},
         {"a sign in the middle ends it", "1-2", 1},
         {"a sign alone", "-", 0},
         {"a point first", ".5x", 0.5},
@@ -41,6 +42,8 @@ TEST(ValueTextTest, ValReadsTheLeadingNumber) {
         {"what follows is left", "12 Rs", 12},
         {"too small for a double", "1e-400", 0},
         {"an exponent by its other letter", "2d3", 2000},
+        {"in either case", "2D3", 2000},
+        {"nothing, however often", "0e999", 0},
         {"an exponent with a plus", "1E+2", 100},
         {"tabs and line ends are blanks", "\t1\n2\r", 12},
     };
@@ -56,10 +59,12 @@ TEST(ValueTextTest, StrictConversionTakesTheWholeTextOrNothing) {
         const char* text;
         double number;
     };
-    for (const auto& [text, number] : {Case{" 1234.50 ", 1234.5}, Case{"12,34,567", 1234567},
-                                       Case{"1e3", 1000}, Case{"-2E-1", -0.2}, Case{"+.5", 0.5}})
+    for (const auto& [text, number] :
+         {Case{" 1234.50 ", 1234.5}, Case{"12,34,567", 1234567}, Case{"1e3", 1000}, Case{"1e+2", 100},
+          Case{"-2E-1", -0.2}, Case{"+.5", 0.5}})
         EXPECT_EQ(to_double(text), number) << text;
-    for (const char* text : {"", "abc", "12a", "1,", ",1", "1..2", "-", "1 2", "--1", "1e", "1e2x", "1.5,0"})
+    for (const char* text :
+         {"", "abc", "12a", "1,", ",1", "1..2", "-", "1 2", "--1", "1e", "1e2x", "1.5,0", "1,x", "e5", "1e-"})
         EXPECT_EQ(failed_with([&] { (void)to_double(text); }), error_number::type_mismatch) << text;
 }
 
@@ -80,6 +85,7 @@ TEST(ValueTextTest, NumbersAreWrittenShortestWithoutExponent) {
                               {0.00001, "0.00001"},
                               {123456789012345678.0, "123456789012346000"},
                               {999999999999999.9, "1000000000000000"},
+                              {12345678901234.04, "12345678901234"},
                               {1.0 / 3, "0.333333333333333"},
                               {-2.0 / 3, "-0.666666666666667"}};
     for (const Case& each : cases)
@@ -94,8 +100,17 @@ TEST(ValueTextTest, RoundsByTheNamedRule) {
     EXPECT_EQ(round_half_away(-2.5, 0), -3);
     // As a text reads, not as it is held.
     for (const auto& [value, away] :
-         {std::pair{1.005, "1.01"}, {-9.995, "-10"}, {99.995, "100"}, {12.34, "12.34"}})
+         {std::pair{1.005, "1.01"}, {-9.995, "-10"}, {99.995, "100"}, {12.34, "12.34"}, {2.344, "2.34"}})
         EXPECT_EQ(number_text(round_half_away(value, 2)), away);
+}
+
+TEST(ValueTextTest, OnlyLettersHaveACase) {
+    EXPECT_TRUE(equal_without_case("aZ", "Az"));
+    EXPECT_FALSE(equal_without_case("{", "["));
+    EXPECT_FALSE(equal_without_case("`", "@"));
+    // A letter that ends in the middle stays as it is, and so do the division sign, \u00DF and \u00FF.
+    EXPECT_EQ(upper_case("az`{ \u00E9\u00FE \u00F7\u00DF\u00FF \xC3"),
+              "AZ`{ \u00C9\u00DE \u00F7\u00DF\u00FF \xC3");
 }
 
 TEST(ValueTextTest, WholeNumbersOverflowInsteadOfWrapping) {
