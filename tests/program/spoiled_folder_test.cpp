@@ -356,6 +356,7 @@ TEST_F(SpoiledFolderTest, AFolderThatTakesNoSaveIsToldByEveryScreenAndLeftAsItIs
         const char* why;
         std::function<void()> spoil, mend;
         std::string of_store, of_file; // told; none where a file is not concerned
+        bool from_the_start = false;
     };
     const Case cases[] = {
         {"for reading only",
@@ -369,6 +370,19 @@ TEST_F(SpoiledFolderTest, AFolderThatTakesNoSaveIsToldByEveryScreenAndLeftAsItIs
          },
          "Error: 70 ../[S].gate: Permission denied (nothing of this save is stored)\n",
          "Error: 70 ../[F]: Permission denied\n"},
+        {"stores for reading only",
+         [&] {
+             for (const Store each : session::all_stores)
+                 std::filesystem::remove(folder.path() + "/" + std::string(base_name(each)) + ".gate");
+             rights(0777, 0444);
+             (void)!::seteuid(65534);
+         },
+         [&] {
+             (void)!::seteuid(user);
+             rights(0770, 0660);
+         },
+         "Error: 70 ../[S].db: attempt to write a readonly database (nothing of this save is stored)\n", "",
+         true},
         {"a full disk",
          [] { FaultyDisk::fail_at(1, FaultyDisk::Fault::disk_full, FaultyDisk::Lasting::from_then_on); },
          FaultyDisk::mend, "Error: Disk is full. Continue?\n", "Error: Disk is full. Continue?\n"},
@@ -389,13 +403,14 @@ TEST_F(SpoiledFolderTest, AFolderThatTakesNoSaveIsToldByEveryScreenAndLeftAsItIs
             if (!save.told || (of_file && each.of_file.empty())) continue;
             SCOPED_TRACE(std::string(name) + ": " + each.why);
             const std::string before = bytes();
+            if (each.from_the_start) each.spoil();
             SampleRun sample(folder.path());
             ASSERT_TRUE(sample.start());
             sample.session().TaxDb.set_longest_wait(std::chrono::milliseconds(20));
             sample.session().FormsDb.set_longest_wait(std::chrono::milliseconds(20));
             save.enter(sample, "27");
             sample.person.told.clear();
-            each.spoil();
+            if (!each.from_the_start) each.spoil();
             const std::string locks_told =
                 locks.empty()
                     ? ""
