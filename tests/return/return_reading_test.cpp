@@ -220,6 +220,18 @@ TEST_F(ReturnReadingTest, Fields) {
     }
 }
 
+TEST_F(ReturnReadingTest, AFileInUtf16OfEitherOrderIsRead) {
+    const std::string text = "<a:Form xmlns:a='a' xmlns:b='b'><b:FirstName>Asha</b:FirstName></a:Form>";
+    for (const bool big : {true, false}) {
+        std::string bytes = big ? "\xFE\xFF" : "\xFF\xFE";
+        for (const char each : text)
+            bytes += big ? std::string{'\0', each} : std::string{each, '\0'};
+        const auto document = XmlDocument::parse(bytes);
+        ASSERT_TRUE(document);
+        EXPECT_EQ(GetNodeText(document->root(), "b:FirstName", ""), "Asha");
+    }
+}
+
 TEST_F(ReturnReadingTest, StonesAreCountedThroughTheDocument) {
     const std::string stone = "<FBAMain:SchJewelStones/>";
     const std::string open = "<FBAMain:SchJewellery>", close = "</FBAMain:SchJewellery>";

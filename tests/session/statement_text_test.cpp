@@ -32,6 +32,10 @@ TEST(StatementTextTest, TurnsTheScreensWordsIntoTheEngines) {
          "SELECT a /* ; [b] */ FROM T ORDER BY rowid /* open"},
         {"another folder's file", "SELECT a FROM [/d/x]y/Assessee.mdb; PWD=p].AssesseeInfo where a=1 ",
          "SELECT a FROM other_store_1.AssesseeInfo where a=1 ORDER BY rowid "},
+        {"named twice", "SELECT a FROM [/d/A.mdb; PWD=p].T, [/d/A.mdb; PWD=p].U",
+         "SELECT a FROM other_store_1.T, other_store_1.U"},
+        {"a year first, and what is no date", "SELECT `a` FROM [/d/x] WHERE b = #2014-09-30# OR b = #x#",
+         "SELECT `a` FROM [/d/x] WHERE b = '2014-09-30' OR b = #x# ORDER BY rowid"},
         {"a trigger's own statements belong to it", "CREATE TRIGGER t INSERT ON T BEGIN SELECT 1; END;",
          "CREATE TRIGGER t INSERT ON T BEGIN SELECT 1; END;"},
     };
@@ -51,6 +55,8 @@ TEST(StatementTextTest, RefusesASecondStatementAndADateThatIsNone) {
               "1 Characters found after end of statement: DROP");
     EXPECT_EQ(testing::failure_of([] { translate("SELECT a FROM T WHERE d = #02/30/2014#"); }),
               "1 Syntax error in date in statement: #02/30/2014#");
+    EXPECT_EQ(testing::failure_of([] { translate("SELECT a FROM T WHERE d = #02/30#"); }),
+              "1 Syntax error in date in statement: #02/30#");
     EXPECT_EQ(testing::failure_of([] { translate(std::string_view("DELETE FROM T\0x", 15)); }),
               "1 The statement holds a NUL character");
 }
