@@ -200,6 +200,11 @@ bool GridView::selection_key(const QKeyEvent& event) {
     }
 }
 
+// A range was drawn from its active cell on: typing and arrows go on from there, as in a spreadsheet.
+void GridView::go_to_anchor() {
+    if (selected_cells() > 1 && anchor_.isValid() && anchor_ != currentIndex()) setCurrentIndex(anchor_);
+}
+
 void GridView::keyPressEvent(QKeyEvent* event) {
     if (!grid_) return;
     if (command_key(*event)) return;
@@ -216,6 +221,9 @@ void GridView::keyPressEvent(QKeyEvent* event) {
         extending_ = false;
         return;
     }
+    const bool keeps_range = event->key() == Qt::Key_Delete || event->key() == Qt::Key_Escape ||
+                             (event->key() >= Qt::Key_Shift && event->key() <= Qt::Key_ScrollLock);
+    if (!keeps_range) go_to_anchor();
     const int column = grid_->active_column();
     const int row = grid_->active_row();
     const CellKind kind = grid_->cell_kind(column, row);
@@ -283,6 +291,7 @@ void GridView::type_character(const QString& typed) {
 
 void GridView::start_edit(const QString& first_typed) {
     if (!grid_ || !currentIndex().isValid() || state() == EditingState) return;
+    go_to_anchor();
     first_typed_ = first_typed;
     const QModelIndex index = currentIndex();
     edit(index);

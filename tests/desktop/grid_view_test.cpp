@@ -165,6 +165,18 @@ TEST_F(GridViewTest, ACopiedRowFillsEverySelectedRowAndStaysSelected) {
     EXPECT_EQ(rows(2), "|||||\n|||||\n");
 }
 
+TEST_F(GridViewTest, KeysGoOnFromWhereARangeBegan) {
+    grid().set_active(1, 2);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    EXPECT_EQ(view().selected_cells(), 3);
+    press(Qt::Key_Right);
+    EXPECT_EQ(std::pair(grid().active_column(), grid().active_row()), std::pair(2, 2));
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    QTest::keyClicks(&view(), QStringLiteral("F"));
+    EXPECT_EQ(std::pair(grid().active_column(), grid().active_row()), std::pair(2, 2));
+}
+
 TEST_F(GridViewTest, ADeletedCellCanBeTakenBack) {
     grid().type(1, 1, "SBI");
     grid().set_active(1, 1);
