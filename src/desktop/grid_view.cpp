@@ -264,8 +264,29 @@ void GridView::keyPressEvent(QKeyEvent* event) {
             acts_->keep_edit(*grid_, column, row, held);
         return;
     }
+    if (name == "Escape") {
+        press_escape(column, row);
+        return;
+    }
     press(name);
     if (event->modifiers() & Qt::ControlModifier) event->ignore();
+}
+
+// A grid may empty its cell at this key, which can be taken back as any edit; not so where it deletes the
+// row.
+void GridView::press_escape(int column, int row) {
+    const auto others = [this, column, row] {
+        std::string all;
+        for (int each = 1; each <= grid_->columns(); ++each)
+            if (each != column && !grid_->cell_locked(each, row)) all += grid_->text(each, row) + '\t';
+        return all;
+    };
+    const std::string held = grid_->text(column, row);
+    const std::string before = others();
+    press("Escape");
+    if (grid_ && row <= grid_->rows() && !held.empty() && grid_->text(column, row).empty() &&
+        others() == before)
+        acts_->keep_edit(*grid_, column, row, held);
 }
 
 void GridView::type_character(const QString& typed) {

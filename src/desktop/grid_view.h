@@ -100,6 +100,7 @@ private:
     bool write_cells(const QString& what, const std::vector<CellText>& cells, int without_place = 0);
     bool grow_to(int rows);
     void go_to_anchor();
+    void press_escape(int column, int row);
     bool command_key(const QKeyEvent& event);
     bool selection_key(const QKeyEvent& event);
     void type_character(const QString& typed);

@@ -184,6 +184,11 @@ TEST_F(GridViewTest, ADeletedCellCanBeTakenBack) {
     EXPECT_EQ(grid().text(1, 1), "");
     window("frmWealthMain").undo();
     EXPECT_EQ(grid().text(1, 1), "SBI");
+    // This grid takes Escape for the same, once an entry is given up.
+    press(Qt::Key_Escape);
+    EXPECT_EQ(grid().text(1, 1), "");
+    window("frmWealthMain").undo();
+    EXPECT_EQ(grid().text(1, 1), "SBI");
 }
 
 TEST_F(GridViewTest, FillDownCopiesTheFirstRowOfTheRange) {
