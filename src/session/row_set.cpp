@@ -198,6 +198,8 @@ std::unique_ptr<RowSet::State> read_rows(const std::shared_ptr<OpenStore>& store
     if (!select || sqlite3_column_count(select.get()) == 0)
         throw Failure(error_number::closed_row_set, "Operation is not allowed when the object is closed.");
 
+    // Another program may have changed the table: the columns are known for sure after the first step.
+    bool more = store->step(select.get());
     const int first = numbered ? 1 : 0;
     const int count = sqlite3_column_count(select.get());
     const TableRule* rule = store->store() ? find_table(*store->store(), statement.table) : nullptr;
@@ -210,7 +212,7 @@ std::unique_ptr<RowSet::State> read_rows(const std::shared_ptr<OpenStore>& store
         state->table = as_name(statement.table);
         if (!statement.alias.empty()) state->table = as_name(statement.alias) + "." + state->table;
     }
-    while (store->step(select.get())) {
+    for (; more; more = store->step(select.get())) {
         if (numbered) state->row_numbers.push_back(sqlite3_column_int64(select.get(), 0));
         std::vector<Value>& row = state->rows.emplace_back();
         row.reserve(state->columns.size());

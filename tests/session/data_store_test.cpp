@@ -188,6 +188,23 @@ TEST_F(DataStoreTest, AnUpdateInPlaceWritesTheRowThatItRead) {
               "1|5|Null; 2|6|37.02");
 }
 
+TEST_F(DataStoreTest, RowsHaveTheColumnsThatAnotherProgramLeftTheTable) {
+    const std::string_view select = "Select * from NetWealthComputation WHERE AssesseeNo = 1";
+    folder.run(Store::tax,
+               "INSERT INTO NetWealthComputation (AssesseeNo, FY, Refund) VALUES (1, '2014-2015', 7)");
+    EXPECT_EQ(tax.open_rows(select, RowSetUse::read)["Refund"].number(), 7);
+    folder.run(Store::tax, "ALTER TABLE NetWealthComputation DROP COLUMN Interest");
+    EXPECT_EQ(failure_of([&] { tax.open_rows(select, RowSetUse::update).set("Interest", 1); }).substr(0, 4),
+              "3265");
+    tax.commit();
+    folder.run(Store::tax, "ALTER TABLE NetWealthComputation ADD COLUMN Interest NUMERIC");
+    RowSet rows = tax.open_rows(select, RowSetUse::update);
+    rows.set("Interest", 5);
+    rows.update();
+    tax.commit();
+    EXPECT_EQ(folder.rows(Store::tax, "SELECT Refund, Interest FROM NetWealthComputation"), "7|5");
+}
+
 TEST_F(DataStoreTest, WhatCannotBeDoneSaysWhy) {
     folder.run(Store::tax, "INSERT INTO Enclosure (Description) VALUES ('x')");
     RowSet rows = tax.open_rows("Enclosure", RowSetUse::update);
