@@ -377,6 +377,9 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
     if (!form_) return QMainWindow::eventFilter(watched, event);
     Control* control = control_of(watched);
     if (!control) return QMainWindow::eventFilter(watched, event);
+    // Only once the list may open: the window comes up sooner without it.
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::MouseButtonPress)
+        if (auto* list = qobject_cast<QComboBox*>(watched)) space_items(*list);
     switch (event->type()) {
     case QEvent::KeyPress:
         if (key_pressed(*static_cast<QKeyEvent*>(event), watched)) return true;
@@ -389,7 +392,6 @@ bool ScreenWindow::eventFilter(QObject* watched, QEvent* event) {
         return true;
     }
     case QEvent::FocusIn:
-        if (auto* list = qobject_cast<QComboBox*>(watched)) space_items(*list);
         focus_came(*control, watched, static_cast<QFocusEvent*>(event)->reason());
         break;
     case QEvent::FocusOut: {
