@@ -6,7 +6,7 @@ namespace levora::form_ba {
 
 frmITMDIParent::frmITMDIParent(session::Session& session) : Screen(session, "frmITMDIParent", "Levora IT") {
     // Its menu works on the return inside it.
-    const auto form = [this] { return static_cast<frmFormBA*>(session_.screens.find("frmFormBA")); };
+    const auto form = [this] { return session_.screens.find_as<frmFormBA>("frmFormBA"); };
     mnuPreviewSheet.on_click = [form] {
         if (frmFormBA* const inside = form()) inside->preview_active_sheet();
     };

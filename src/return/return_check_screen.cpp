@@ -22,7 +22,7 @@ void frmReturnCheck::Form_Activate() {
 void frmReturnCheck::check() {
     lstFindings.clear();
     findings_.clear();
-    auto* const form = static_cast<frmFormBA*>(session_.screens.find("frmFormBA"));
+    auto* const form = session_.screens.find_as<frmFormBA>("frmFormBA");
     if (!form) {
         lblSummary.set_caption("The return is not open.");
         return;
@@ -42,7 +42,7 @@ void frmReturnCheck::check() {
 }
 
 void frmReturnCheck::go_there() {
-    auto* const form = static_cast<frmFormBA*>(session_.screens.find("frmFormBA"));
+    auto* const form = session_.screens.find_as<frmFormBA>("frmFormBA");
     const int chosen = lstFindings.index();
     if (!form || chosen < 0 || chosen >= static_cast<int>(findings_.size())) return;
     const Finding& finding = findings_[static_cast<std::size_t>(chosen)];

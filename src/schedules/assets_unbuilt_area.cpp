@@ -2,8 +2,8 @@
 
 #include "schedules/asset_schedule.h"
 #include "schedules/assets_immovable.h"
-#include "schedules/assets_screen.h"
 #include "schedules/grid_keys.h"
+#include "schedules/named_control.h"
 #include "schedules/property_grid.h"
 #include "session/table_rows.h"
 #include "session/unread_rows.h"
@@ -103,7 +103,7 @@ constexpr widgets::Reckoning premium{premium_of, "the premium for $1", "rule 6 o
 // Wanted: the city is what was typed as the name of the premises, not the choice of the town row;
 // following that row would change the premium of stored plots.
 double share_of_premises(const widgets::Form& form) {
-    const widgets::Grid& properties = static_cast<const frmImmovable&>(form).immovable.sprImmovable;
+    const widgets::Grid& properties = control_of<widgets::Grid>(form, "sprImmovable");
     return specified_share(properties.text(properties.active_column(), PropertyRow::premises));
 }
 

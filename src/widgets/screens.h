@@ -36,8 +36,10 @@ public:
     // The screen, made and loaded if need be (its Form_Load runs, it stays hidden). A Failure 424
     // for a name that no screen has.
     Form& load(std::string_view name);
-    // The same as its own class.
-    template <class T> T& get(std::string_view name) { return static_cast<T&>(load(name)); }
+    // The same two as the screen's own class; of a screen of another class get is a std::bad_cast, and
+    // find_as null.
+    template <class T> T& get(std::string_view name) { return dynamic_cast<T&>(load(name)); }
+    template <class T> T* find_as(std::string_view name) const { return dynamic_cast<T*>(find(name)); }
 
     // Loads if need be and shows. Nothing waits for a modal screen to close: the call returns.
     Form& show(std::string_view name, Showing showing = Showing::modeless);
