@@ -7,6 +7,7 @@
 #include "session/session_state.h"
 #include "widgets/fields.h"
 #include "widgets/form.h"
+#include "widgets/typed_control.h"
 
 #include <QTimer>
 
@@ -61,7 +62,7 @@ void show_composition(const ScreenWindow& window, CompositionChart& chart) {
         form.name() == "frmWealthMain" ? std::span<const ChartLine>(sheet_lines) : asset_lines;
     std::vector<CompositionChart::Bar> bars;
     for (const ChartLine& line : chart_lines) {
-        const auto* field = static_cast<const widgets::TextField*>(form.find(line.control));
+        const auto* field = widgets::as_if<widgets::TextField>(form.find(line.control));
         if (!field) continue;
         bars.push_back(bar(to_qt(form.rules.name_of(*field)), field->value(), line.total));
     }

@@ -5,6 +5,7 @@
 #include "session/common_services.h"
 #include "widgets/failure.h"
 #include "widgets/grid.h"
+#include "widgets/typed_control.h"
 
 #include <filesystem>
 #include <string>
@@ -69,7 +70,7 @@ void frmSprPreview::take_total_row_away() {
     if (session_.SheetGridName != total_row_grid) return;
     session_.SheetGridName.clear();
     widgets::Form* assets = session_.screens.find("frmImmovable");
-    auto* grid = assets ? dynamic_cast<widgets::Grid*>(assets->find(total_row_grid)) : nullptr;
+    auto* grid = assets ? widgets::as_if<widgets::Grid>(assets->find(total_row_grid)) : nullptr;
     if (grid) grid->set_rows(grid->rows() - 1);
 }
 

@@ -2,6 +2,7 @@
 
 #include "widgets/failure.h"
 #include "widgets/fields.h"
+#include "widgets/typed_control.h"
 
 namespace levora::reports {
 
@@ -24,22 +25,22 @@ widgets::Control& control_of(session::Session& session, std::string_view screen,
 
 std::string text_of(session::Session& session, std::string_view screen, std::string_view name) {
     const widgets::Control& control = control_of(session, screen, name);
-    if (const auto* field = dynamic_cast<const widgets::TextField*>(&control)) return field->text();
-    if (const auto* field = dynamic_cast<const widgets::MaskedField*>(&control)) return field->text();
-    if (const auto* list = dynamic_cast<const widgets::ListField*>(&control)) return list->text();
-    if (const auto* label = dynamic_cast<const widgets::Label*>(&control)) return label->caption();
+    if (const auto* field = widgets::as_if<widgets::TextField>(&control)) return field->text();
+    if (const auto* field = widgets::as_if<widgets::MaskedField>(&control)) return field->text();
+    if (const auto* list = widgets::as_if<widgets::ListField>(&control)) return list->text();
+    if (const auto* label = widgets::as_if<widgets::Label>(&control)) return label->caption();
     not_there(screen, name);
 }
 
 bool is_set(session::Session& session, std::string_view screen, std::string_view name) {
     const widgets::Control& control = control_of(session, screen, name);
-    if (const auto* tick = dynamic_cast<const widgets::TickBox*>(&control)) return tick->ticked();
-    if (const auto* option = dynamic_cast<const widgets::OptionButton*>(&control)) return option->value();
+    if (const auto* tick = widgets::as_if<widgets::TickBox>(&control)) return tick->ticked();
+    if (const auto* option = widgets::as_if<widgets::OptionButton>(&control)) return option->value();
     not_there(screen, name);
 }
 
 widgets::Grid& grid_of(session::Session& session, std::string_view screen, std::string_view name) {
-    auto* grid = dynamic_cast<widgets::Grid*>(&control_of(session, screen, name));
+    auto* grid = widgets::as_if<widgets::Grid>(&control_of(session, screen, name));
     if (!grid) not_there(screen, name);
     return *grid;
 }

@@ -2,6 +2,7 @@
 #include "widgets/fields.h"
 #include "widgets/form.h"
 #include "widgets/grid.h"
+#include "widgets/typed_control.h"
 #include "widgets/utf8.h"
 
 namespace levora::script {
@@ -10,24 +11,20 @@ using namespace widgets;
 
 namespace {
 
-const Grid& as_grid(const Control& control) {
-    return static_cast<const Grid&>(control);
-}
-
 constexpr Property properties[] = {
-    {"rows", [](lua_State* state, const Control& control) { return push(state, as_grid(control).rows()); }},
+    {"rows", [](lua_State* state, const Control& control) { return push(state, as<Grid>(control).rows()); }},
     {"cols",
-     [](lua_State* state, const Control& control) { return push(state, as_grid(control).columns()); }},
+     [](lua_State* state, const Control& control) { return push(state, as<Grid>(control).columns()); }},
     {"datarows",
-     [](lua_State* state, const Control& control) { return push(state, as_grid(control).data_rows()); }},
+     [](lua_State* state, const Control& control) { return push(state, as<Grid>(control).data_rows()); }},
     {"datacols",
-     [](lua_State* state, const Control& control) { return push(state, as_grid(control).data_columns()); }},
+     [](lua_State* state, const Control& control) { return push(state, as<Grid>(control).data_columns()); }},
     {"activecol",
-     [](lua_State* state, const Control& control) { return push(state, as_grid(control).active_column()); }},
+     [](lua_State* state, const Control& control) { return push(state, as<Grid>(control).active_column()); }},
     {"activerow",
-     [](lua_State* state, const Control& control) { return push(state, as_grid(control).active_row()); }},
+     [](lua_State* state, const Control& control) { return push(state, as<Grid>(control).active_row()); }},
     {"changed",
-     [](lua_State* state, const Control& control) { return push(state, as_grid(control).changed()); }},
+     [](lua_State* state, const Control& control) { return push(state, as<Grid>(control).changed()); }},
 };
 
 // The column and row that a call names behind its grid.
