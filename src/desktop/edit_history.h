@@ -42,7 +42,6 @@ public:
     [[nodiscard]] std::vector<Edit> edits() const;
     [[nodiscard]] bool can_undo() const { return !done_.empty(); }
     [[nodiscard]] bool can_redo() const { return !undone_.empty(); }
-    [[nodiscard]] bool replaying() const { return replaying_; }
 
     // Takes the last step back, does the last one again. Edits whose place holds something else by now
     // are left alone; their number.

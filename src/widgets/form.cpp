@@ -67,7 +67,6 @@ bool Form::press_key(std::string_view key) {
 }
 
 void Form::show_popup(const Menu& menu) {
-    popup_ = &menu;
     if (view) view->popup_wanted(*this, menu);
 }
 

@@ -73,10 +73,8 @@ public:
     // A person presses such a key.
     bool press_key(std::string_view key);
 
-    // The pop-up menu that the last right click asked for; null when none.
-    [[nodiscard]] const Menu* popup() const { return popup_; }
+    // A right click asks for the menu: the view, if there is one, shows it.
     void show_popup(const Menu& menu);
-    void clear_popup() { popup_ = nullptr; }
 
     // Runs a handler as an event of this form, named as "cmdSave1_Click". A Failure that nothing
     // inside has answered passes to the event that is running, if there is one; from the outermost
@@ -103,7 +101,6 @@ private:
     std::vector<Control*> controls_;
     std::unordered_map<std::string_view, Control*> by_name_;
     Control* active_ = nullptr;
-    const Menu* popup_ = nullptr;
 };
 
 } // namespace levora::widgets

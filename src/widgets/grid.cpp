@@ -65,9 +65,6 @@ bool Grid::cell_locked(int column, int row) const {
 Color Grid::cell_backcolor(int column, int row) const {
     return at(column, row).backcolor;
 }
-bool Grid::has_data(int column, int row) const {
-    return at(column, row).data;
-}
 
 double Grid::value(int column, int row) const {
     const Cell& cell = at(column, row);

@@ -117,9 +117,8 @@ public:
 
     // --- headers, widths, hidden columns ---
     [[nodiscard]] const std::string& header(int column) const; // column 0 is the corner
-    [[nodiscard]] std::string row_header(int row) const;       // its number unless set
+    [[nodiscard]] std::string row_header(int row) const;       // its number, as text
     void set_header(int column, std::string text);
-    void set_row_header(int row, std::string text);
     [[nodiscard]] bool hidden(int column) const;
     void set_hidden(int column, bool hidden);
     [[nodiscard]] double column_width(int column) const; // in characters
@@ -136,7 +135,6 @@ public:
     [[nodiscard]] bool cell_locked(int column, int row) const;
     [[nodiscard]] Color cell_backcolor(int column, int row) const;
     [[nodiscard]] const std::string& note(int column, int row) const;
-    [[nodiscard]] bool has_data(int column, int row) const;
 
     // --- cells: the program's writes ---
     // What the cell's kind makes of a text: a number is rounded to its decimals, halves away from

@@ -19,8 +19,7 @@ const std::string& Grid::header(int column) const {
 std::string Grid::row_header(int row) const {
     if (row == 0) return storage_->corner;
     (void)at(1, row);
-    const Row& held = storage_->rows[static_cast<std::size_t>(row - 1)];
-    return held.header_set ? held.header : std::to_string(row);
+    return std::to_string(row);
 }
 
 void Grid::set_header(int column, std::string text) {
@@ -29,14 +28,6 @@ void Grid::set_header(int column, std::string text) {
     if (header == text) return;
     header = std::move(text);
     if (form().view) form().view->cell_changed(*this, column, 0);
-}
-
-void Grid::set_row_header(int row, std::string text) {
-    (void)at(1, row);
-    Row& held = storage_->rows[static_cast<std::size_t>(row - 1)];
-    held.header = std::move(text);
-    held.header_set = true;
-    if (form().view) form().view->cell_changed(*this, 0, row);
 }
 
 bool Grid::hidden(int column) const {

@@ -40,8 +40,6 @@ struct Grid::Cell {
 
 struct Grid::Row {
     std::vector<Cell> cells;
-    std::string header;
-    bool header_set = false;
     int data_count = 0;
 };
 
