@@ -85,8 +85,7 @@ frmBusinessAssets::frmBusinessAssets(session::Session& session)
 
 void frmBusinessAssets::design() {
     design_columns(sprAssetOfBusiness, fields);
-    // The numbers (1) to (6) that stood in row 1 go with the clearing of every load, so that they are
-    // never on view: the row is like the others.
+    // Row 1 is like the others: column numbers in it would go with the clearing of every load.
     for (int row = first_waiting_row; row <= last_waiting_row; ++row)
         sprAssetOfBusiness.set_cell_locked(BusinessColumn::individual, row, true);
     sprAssetOfBusiness.set_column_formula(BusinessColumn::fifth, {BusinessColumn::balance_sheet}, fifth);

@@ -87,7 +87,7 @@ constexpr std::array<ScheduleField, 9> fields{{
 constexpr int last_button_row = 8;
 static_assert(computation::deemed_to_sheet.from_column == DeemedColumn::net &&
               computation::deemed_to_sheet.from_row == DeemedRow::total);
-// Where clicks were reported while the button stood there.
+// Where a click of Details is looked for; the buttons stand one column further right.
 constexpr int column_of_clicks = DeemedColumn::amount;
 
 } // namespace
@@ -190,23 +190,17 @@ void frmDeemedAsset::cmdDeemedAssetOk_Click() {
     session_.DeemedAssetFlag = false;
     // Wanted: row 13 also where the total row has moved down.
     hand_over(computation::deemed_to_sheet, *this, session_.screens.load("frmWealthMain"));
-    show_sheet();
+    leave_for_sheet(session_, *this);
 }
 
 void frmDeemedAsset::cmdDeemedAssetCancel_Click() {
     // Wanted: DeemedAssetFlag stays set; the next opening of the assets clears it.
-    show_sheet();
+    leave_for_sheet(session_, *this);
 }
 
 void frmDeemedAsset::Form_Unload() {
-    // The close box leaves as Cancel does; the sheet would stay hidden otherwise.
-    widgets::Form* sheet = session_.screens.find("frmWealthMain");
-    if (sheet != nullptr && !sheet->visible()) session_.screens.show("frmWealthMain");
-}
-
-void frmDeemedAsset::show_sheet() {
-    session_.screens.show("frmWealthMain");
-    session_.screens.unload(name());
+    // The close box leaves as Cancel does.
+    show_hidden_sheet(session_);
 }
 
 } // namespace levora::schedules

@@ -4,8 +4,6 @@
 #include "widgets/fields.h"
 #include "widgets/grid.h"
 
-#include <string_view>
-
 namespace levora::schedules {
 
 // Columns and rows of sprDeemedAsset: twelve assets and their total.
@@ -51,7 +49,6 @@ private:
     void sprDeemedAsset_ComboSelChange(int row);
     void cmdDeemedAssetOk_Click();
     void cmdDeemedAssetCancel_Click();
-    void show_sheet();
 
     bool read_ = false; // all stored rows are on the screen
 };

@@ -70,7 +70,7 @@ frmAssetExempt::frmAssetExempt(session::Session& session)
     connect_grid();
     connect_menu();
     cmdOK.on_click = [this] { cmdOK_Click(); };
-    cmdCancel.on_click = [this] { show_sheet(); };
+    cmdCancel.on_click = [this] { leave_for_sheet(session_, *this); };
 }
 
 void frmAssetExempt::design() {
@@ -156,22 +156,17 @@ void frmAssetExempt::SaveExemptedAsset() {
 
 void frmAssetExempt::cmdOK_Click() {
     if (!read_ && !saves_over_unread(session_, "frmAssetExempt - SaveExemptedAsset",
-                                     {{"AssetUnderExemption", year_key(session_)}}, [this] { show_sheet(); }))
+                                     {{"AssetUnderExemption", year_key(session_)}},
+                                     [this] { leave_for_sheet(session_, *this); }))
         return;
     SaveExemptedAsset();
     hand_over(computation::exempted_to_sheet, *this, session_.screens.load("frmWealthMain"));
-    show_sheet();
+    leave_for_sheet(session_, *this);
 }
 
 void frmAssetExempt::Form_Unload() {
-    // The close box leaves as Cancel does; the sheet would stay hidden otherwise.
-    widgets::Form* sheet = session_.screens.find("frmWealthMain");
-    if (sheet != nullptr && !sheet->visible()) session_.screens.show("frmWealthMain");
-}
-
-void frmAssetExempt::show_sheet() {
-    session_.screens.show("frmWealthMain");
-    session_.screens.unload(name());
+    // The close box leaves as Cancel does.
+    show_hidden_sheet(session_);
 }
 
 } // namespace levora::schedules

@@ -44,7 +44,6 @@ private:
     void sprAssetExempt_KeyPress(char32_t character);
     void sheet_of_active_grid(session::SheetUse use);
     void cmdOK_Click();
-    void show_sheet();
 
     const widgets::Rule* total_ = nullptr;
     bool read_ = false; // all stored rows are on the screen

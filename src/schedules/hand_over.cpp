@@ -15,4 +15,14 @@ void hand_over(const widgets::HandOver& what, const widgets::Form& from, widgets
         field.set_text(control_of<widgets::TextField>(from, what.from_control).text());
 }
 
+void leave_for_sheet(session::Session& session, const widgets::Form& screen) {
+    session.screens.show("frmWealthMain");
+    session.screens.unload(screen.name());
+}
+
+void show_hidden_sheet(session::Session& session) {
+    const widgets::Form* sheet = session.screens.find("frmWealthMain");
+    if (sheet != nullptr && !sheet->visible()) session.screens.show("frmWealthMain");
+}
+
 } // namespace levora::schedules

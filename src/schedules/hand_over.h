@@ -1,5 +1,6 @@
 #pragma once
 
+#include "session/session_state.h"
 #include "widgets/form.h"
 #include "widgets/rules.h"
 
@@ -19,5 +20,11 @@ constexpr widgets::HandOver business_to_assets{.from_screen = "frmBusinessAssets
 // Writes a field of the other screen: the text of a field as it stands, the number that a cell holds. A
 // Failure 424 when one of the places is not there.
 void hand_over(const widgets::HandOver& what, const widgets::Form& from, widgets::Form& to);
+
+// Shows the sheet and lets the screen go.
+void leave_for_sheet(session::Session& session, const widgets::Form& screen);
+// Shows the sheet if it is loaded and hidden, which it would stay when a close box ends the screen
+// that was opened from it.
+void show_hidden_sheet(session::Session& session);
 
 } // namespace levora::schedules
