@@ -2,7 +2,6 @@
 
 #include "widgets/value_text.h"
 
-#include <utility>
 #include <vector>
 
 namespace levora::challan {

@@ -4,7 +4,6 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cstdlib>
 
 namespace levora::desktop {
 

@@ -18,8 +18,6 @@
 #include <QStandardPaths>
 #include <QTimer>
 
-#include <memory>
-
 namespace levora::desktop {
 
 namespace {

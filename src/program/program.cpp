@@ -14,7 +14,6 @@
 #include "widgets/value_text.h"
 
 #include <array>
-#include <functional>
 #include <memory>
 #include <string_view>
 #include <unistd.h>

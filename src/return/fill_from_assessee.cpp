@@ -2,7 +2,6 @@
 #include "return/sheet_fields.h"
 #include "session/common_services.h"
 
-#include <cmath>
 #include <functional>
 
 namespace levora::form_ba {

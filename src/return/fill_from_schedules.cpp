@@ -3,7 +3,6 @@
 #include "session/data_store.h"
 
 #include <span>
-#include <string>
 #include <string_view>
 
 namespace levora::form_ba {

@@ -6,7 +6,6 @@
 #include "widgets/value_text.h"
 
 #include <cmath>
-#include <initializer_list>
 
 namespace levora::form_ba {
 

@@ -3,7 +3,6 @@
 #include "widgets/typed_control.h"
 #include "widgets/value_text.h"
 
-#include <optional>
 #include <string>
 #include <string_view>
 

@@ -4,7 +4,6 @@
 #include "widgets/headless_desk.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace levora::script {
 

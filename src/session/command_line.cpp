@@ -3,7 +3,6 @@
 #include "widgets/value_text.h"
 
 #include <array>
-#include <string>
 #include <vector>
 
 namespace levora::session {

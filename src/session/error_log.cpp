@@ -2,7 +2,6 @@
 #include "session/file_faults.h"
 #include "widgets/value_text.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <ctime>

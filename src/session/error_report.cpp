@@ -1,8 +1,6 @@
 #include "session/common_services.h"
 #include "widgets/value_text.h"
 
-#include <array>
-
 namespace levora::session {
 
 namespace {

@@ -3,7 +3,6 @@
 #include "session/common_services.h"
 #include "widgets/value_text.h"
 
-#include <array>
 #include <optional>
 
 namespace levora::session {

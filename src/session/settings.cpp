@@ -5,7 +5,6 @@
 #include "widgets/failure.h"
 #include "widgets/value_text.h"
 
-#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <utility>

@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cstdio>
-#include <sstream>
 #include <utility>
 #include <vector>
 

@@ -8,8 +8,6 @@
 #include "widgets/failure.h"
 
 #include <filesystem>
-#include <iterator>
-#include <list>
 #include <map>
 #include <new>
 #include <vector>

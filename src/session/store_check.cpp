@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <set>
-#include <tuple>
 #include <utility>
 
 namespace levora::session {

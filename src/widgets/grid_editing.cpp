@@ -5,7 +5,6 @@
 #include "widgets/utf8.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace levora::widgets {
 
