@@ -16,8 +16,8 @@ constexpr int row_is_gone = 3167;
 constexpr int item_not_found = 3265;
 
 [[noreturn]] void refuse(const ColumnRule& rule, std::string_view wanted, const Value& value) {
-    throw Failure(error_number::type_mismatch, "column \"" + std::string(rule.name) + "\": not a " +
-                                                   std::string(wanted) + ": \"" + value.text() + "\"");
+    throw Failure(error_number::type_mismatch,
+                  "column \"" + std::string(rule.name) + "\": " + not_what_was_wanted(wanted, value));
 }
 
 // Nothing that such a column could show: saving it again would lose it. Dates are left out, as what is no
@@ -266,10 +266,9 @@ const Value& RowSet::operator[](std::string_view column) const {
     if (state.current >= state.rows.size()) throw Failure(no_current_row, "No current record.");
     const Value& value = state.rows[state.current][at];
     if (state.wrong.contains({state.current, at}))
-        throw Failure(error_number::type_mismatch, "table \"" + state.table_name + "\", column \"" +
-                                                       std::string(column) + "\": not a " +
-                                                       std::string(in_words(state.rules[at]->kind)) + ": \"" +
-                                                       value.text().substr(0, 40) + "\"");
+        throw Failure(error_number::type_mismatch,
+                      "table \"" + state.table_name + "\", column \"" + std::string(column) +
+                          "\": " + not_what_was_wanted(in_words(state.rules[at]->kind), value));
     return value;
 }
 

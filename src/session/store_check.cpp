@@ -116,8 +116,8 @@ void Checker::check_values(const TableRule& table, const ColumnRule& column) {
                              number_text(static_cast<double>(most_rows_told)));
     for (const auto& row : wrong.rows)
         tell(table.store, "table \"" + std::string(table.name) + "\", row " + row[0].text() + ", column \"" +
-                              std::string(column.name) + "\": not a " + std::string(in_words(column.kind)) +
-                              ": \"" + row[1].text() + "\"");
+                              std::string(column.name) +
+                              "\": " + not_what_was_wanted(in_words(column.kind), row[1]));
 }
 
 void Checker::check_keys(const TableRule& table) {

@@ -1,6 +1,7 @@
 #include "session/store_tables.h"
 
 #include "session/statement_text.h"
+#include "widgets/utf8.h"
 #include "widgets/value_text.h"
 
 namespace levora::session {
@@ -266,6 +267,19 @@ std::string_view in_words(ColumnKind kind) {
         break;
     }
     return "date";
+}
+
+std::string not_what_was_wanted(std::string_view wanted, const Value& value) {
+    constexpr std::size_t most_shown = 40;
+    const std::string whole_text = value.text();
+    std::string_view rest = whole_text;
+    std::string shown;
+    for (std::size_t count = 0; count < most_shown && !rest.empty(); ++count) {
+        const char32_t character = take_character(rest);
+        const bool is_control = character < U' ' || (character >= 0x7F && character < 0xA0);
+        append_character(shown, is_control ? U'?' : character);
+    }
+    return "not a " + std::string(wanted) + ": \"" + shown + (rest.empty() ? "\"" : "\"...");
 }
 
 std::string create_table_statement(const TableRule& table) {

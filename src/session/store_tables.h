@@ -41,6 +41,8 @@ const TableRule* find_table(Store store, std::string_view name);
 const ColumnRule* find_column(const TableRule& table, std::string_view name);
 // What a column of the kind holds: "whole number".
 std::string_view in_words(ColumnKind kind);
+// What refuses a value: not a number: "much". A long value is cut, and what can't be shown is "?".
+std::string not_what_was_wanted(std::string_view wanted, const Value& value);
 
 // The statements that make the table and its index.
 std::string create_table_statement(const TableRule& table);

@@ -76,8 +76,8 @@ TEST_F(FolderCareTest, EachFaultIsToldInPlainWords) {
     spoil(Store::tax, "INSERT INTO NetWealthComputation (AssesseeNo, FY, LessDebt, DueDate) "
                       "VALUES (17, '2014-2015', 'much', '2014-02-30'), (17, '2014-2015', 1, NULL)");
     spoil(Store::tax, "UPDATE Enclosure SET AssesseeNo = 99 WHERE Description = 'of B'");
-    spoil(Store::tax,
-          "UPDATE Enclosure SET AssesseeNo = NULL, Description = x'41' WHERE Description = 'of A'");
+    spoil(Store::tax, "UPDATE Enclosure SET AssesseeNo = NULL, Description = CAST(x'41'||char(7)||"
+                      "printf('%.90c', 'B') AS BLOB) WHERE Description = 'of A'");
     spoil(Store::tax,
           "INSERT INTO jewellery (AssesseeNo, DescAndWeiOfPreAndSemiPreStones) VALUES (17.5, x'42')");
     spoil(Store::forms, "UPDATE Challan SET ChallanDate = 41912 WHERE AssesseeNo = 17");
@@ -88,7 +88,8 @@ TEST_F(FolderCareTest, EachFaultIsToldInPlainWords) {
         "LVWTax: table \"NetWealthComputation\", row 1, column \"LessDebt\": not a number: \"much\"\n"
         "LVWTax: table \"NetWealthComputation\", row 1, column \"DueDate\": not a date: \"2014-02-30\"\n"
         "LVWTax: table \"NetWealthComputation\" has 2 rows of one key: AssesseeNo 17, FY 2014-2015\n"
-        "LVWTax: table \"Enclosure\", row 1, column \"Description\": not a text: \"A\"\n"
+        "LVWTax: table \"Enclosure\", row 1, column \"Description\": not a text: "
+        "\"A?BBBBBBBBBBBBBBBBBBBBBBBBBBBBBBBBBBBBBB\"...\n"
         "LVWTax: table \"jewellery\", row 1, column \"AssesseeNo\": not a whole number: \"17.5\"\n"
         "LVWTax: table \"jewellery\", row 1, column \"DescAndWeiOfPreAndSemiPreStones\": not a text or "
         "number: \"B\"\n"
