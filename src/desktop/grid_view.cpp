@@ -154,12 +154,33 @@ void GridView::press(const std::string& key) {
     const int column = grid_->active_column();
     const int row = grid_->active_row();
     if (!acts_->act([this, &key] { grid_->press_key(key); })) return;
+    if (key == "Tab" || key == "Shift+Tab" || key == "Enter") pass_locked_cells(key, column, row);
     const bool stayed = column == grid_->active_column() && row == grid_->active_row();
     // Past either end, the focus moves on to the next field.
     if (stayed && hasFocus() && (key == "Tab" || key == "Shift+Tab"))
         QTableView::focusNextPrevChild(key == "Tab");
     else if (selected_cells() > 1 && hasFocus())
         setCurrentIndex(currentIndex());
+}
+
+// As in a spreadsheet's protected page, keys that go from cell to cell stop where something can be done.
+// With nothing of the kind further on, Tab goes to the next field and Enter where the grid takes it.
+void GridView::pass_locked_cells(const std::string& key, int from_column, int from_row) {
+    using Place = std::pair<int, int>;
+    const auto place = [this] { return Place(grid_->active_column(), grid_->active_row()); };
+    const Place from(from_column, from_row);
+    const Place first = place();
+    if (first == from) return;
+    Place last = from;
+    // A grid whose own rules lead round in a ring is left after one round.
+    for (int left = grid_->columns() * grid_->rows(); left > 0 && place() != last; --left) {
+        last = place();
+        const auto [column, row] = last;
+        if (!grid_->cell_locked(column, row) || grid_->cell_kind(column, row) == CellKind::button) return;
+        if (!acts_->act([this, &key] { grid_->press_key(key); }) || !grid_) return;
+    }
+    const auto [column, row] = key == "Enter" ? first : from;
+    acts_->act([this, column = column, row = row] { grid_->set_active(column, row); });
 }
 
 bool GridView::command_key(const QKeyEvent& event) {

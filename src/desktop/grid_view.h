@@ -101,6 +101,7 @@ private:
     bool grow_to(int rows);
     void go_to_anchor();
     void press_escape(int column, int row);
+    void pass_locked_cells(const std::string& key, int from_column, int from_row);
     bool command_key(const QKeyEvent& event);
     bool selection_key(const QKeyEvent& event);
     void type_character(const QString& typed);

@@ -114,6 +114,32 @@ TEST_F(GridViewTest, ArrowsTabAndDeleteGoToTheGrid) {
     EXPECT_EQ(grid().text(2, 2), "");
 }
 
+TEST_F(GridViewTest, KeysFromCellToCellPassLockedOnes) {
+    const auto lock = [this](int column, int row, bool locked) {
+        grid().set_cell_locked(column, row, locked);
+    };
+    const auto place = [this] { return std::pair(grid().active_column(), grid().active_row()); };
+    for (const int column : {2, 3, 5, 6})
+        lock(column, 1, true);
+    lock(1, 2, true);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(place(), std::pair(4, 1));
+    press(Qt::Key_Return);
+    EXPECT_EQ(place(), std::pair(2, 2));
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(place(), std::pair(4, 1));
+    // Nothing further on can be written in.
+    for (int row = 1; row <= grid().rows(); ++row)
+        for (int column = 1; column <= grid().columns(); ++column)
+            lock(column, row, column != 4 || row != 1);
+    press(Qt::Key_Return);
+    EXPECT_EQ(place(), std::pair(5, 1));
+    grid().set_active(4, 1);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(place(), std::pair(4, 1));
+    EXPECT_FALSE(view().hasFocus());
+}
+
 TEST_F(GridViewTest, ARangeIsCopiedAsTabbedLines) {
     grid().type(1, 1, "A");
     grid().type(2, 1, "B");
