@@ -51,12 +51,19 @@ std::size_t find_without_case(std::string_view text, std::string_view part) {
     return at == text.end() ? std::string_view::npos : static_cast<std::size_t>(at - text.begin());
 }
 
-// "[/data/Assessee.mdb; PWD=...]": a folder may hold a closing bracket, so the password marks the end.
+bool ends_without_case(std::string_view text, std::string_view end) {
+    return text.size() >= end.size() && equal_without_case(text.substr(text.size() - end.size()), end);
+}
+
+// "[/data/Assessee.mdb; PWD=...]": a folder may hold a closing bracket, so the password marks the end, or
+// where there is none the ending of the file.
 std::size_t other_file_length(std::string_view text) {
     const std::size_t simple_end = text.find(']');
     if (simple_end == std::string_view::npos) return 0;
     if (text.substr(0, simple_end).find_first_of("/\\") == std::string_view::npos) return 0;
-    const std::size_t password = find_without_case(text, "; PWD=");
+    const std::string_view simple = text.substr(0, simple_end);
+    const bool is_file = ends_without_case(simple, ".mdb") || ends_without_case(simple, ".db");
+    const std::size_t password = is_file ? std::string_view::npos : find_without_case(text, "; PWD=");
     const std::size_t end = password == std::string_view::npos ? simple_end : text.find(']', password);
     if (end == std::string_view::npos || end + 1 >= text.size() || text[end + 1] != '.') return 0;
     return end + 1;
