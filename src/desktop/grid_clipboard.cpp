@@ -1,4 +1,5 @@
 #include "desktop/acts.h"
+#include "desktop/grid_model.h"
 #include "desktop/grid_view.h"
 #include "desktop/long_work.h"
 #include "desktop/qt_text.h"
@@ -72,6 +73,7 @@ bool GridView::write_cells(const QString& what, const std::vector<CellText>& cel
     const Range chosen = selected_range();
     int locked = 0;
     int refused = 0;
+    QString first_refused;
     bool cancelled = false;
     {
         LongWork work(this, what, static_cast<int>(cells.size()));
@@ -89,10 +91,15 @@ bool GridView::write_cells(const QString& what, const std::vector<CellText>& cel
             const std::string text =
                 from_qt(cell_text(to_qt(cell.text), grid_->design(cell.column, cell.row)));
             if (grid_->text(cell.column, cell.row) == text) continue;
-            if (!takes_text(*grid_, cell.column, cell.row))
+            if (!takes_text(*grid_, cell.column, cell.row)) {
                 ++locked;
-            else if (!acts_->edit_cell(*grid_, cell.column, cell.row, text))
-                ++refused;
+                continue;
+            }
+            // Named before the edit, which may take the row away.
+            const QString place =
+                tr("%1, %2").arg(row_words(*grid_, cell.row), plain_words(grid_->header(cell.column)));
+            if (!acts_->edit_cell(*grid_, cell.column, cell.row, text) && refused++ == 0)
+                first_refused = tr("The first is \"%1\" in %2. ").arg(to_qt(text).left(40), place);
         }
         work.settle();
         if (cancelled)
@@ -106,7 +113,7 @@ bool GridView::write_cells(const QString& what, const std::vector<CellText>& cel
     else
         acts_->tell((counted(locked, "locked cell left as it was.", "locked cells left as they were.") +
                      counted(refused, "value did not fit its cell.", "values did not fit their cells.") +
-                     counted(without_place, "value found no cell.", "values found no cell."))
+                     first_refused + counted(without_place, "value found no cell.", "values found no cell."))
                         .trimmed());
     return !cancelled;
 }

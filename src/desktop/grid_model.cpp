@@ -47,15 +47,15 @@ bool stands_right(const Grid& grid, int column, int row) {
     }
 }
 
-// What a row is called: by its label, a fixed text in its first cell, or by its header.
+} // namespace
+
 QString row_words(const Grid& grid, int row) {
     const bool labelled = grid.columns() > 1 && grid.cell_locked(1, row) && !shown_text(grid, 1, row).empty();
     if (labelled) return plain_words(shown_text(grid, 1, row));
     const QString header = plain_words(grid.row_header(row));
-    return header.isEmpty() ? QString::number(row) : header;
+    const QString number = QString::number(row);
+    return header.isEmpty() || header == number ? QStringLiteral("row ") + number : header;
 }
-
-} // namespace
 
 std::string shown_text(const Grid& grid, int column, int row) {
     const std::string& text = grid.text(column, row);

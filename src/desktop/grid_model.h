@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QString>
 
 #include <string>
 
@@ -41,5 +42,8 @@ private:
 
 // A cell as a person reads it: figures grouped where the design says so.
 std::string shown_text(const widgets::Grid& grid, int column, int row);
+
+// What a row is called: by its label, a fixed text in its first cell, or by its header.
+QString row_words(const widgets::Grid& grid, int row);
 
 } // namespace levora::desktop

@@ -226,6 +226,16 @@ TEST_F(GridViewTest, FillDownCopiesTheFirstRowOfTheRange) {
     EXPECT_EQ(text("txtPrepaidTax"), "30");
 }
 
+TEST_F(GridViewTest, APasteTellsWhatDidNotFitAndWhere) {
+    QApplication::clipboard()->setText(
+        QStringLiteral("BoB\tMain\t12\t30/02/2014\t8\t5\nSBI\tMG\t13\t2014\t9\t7"));
+    grid().set_active(1, 1);
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(rows(2), "BoB|Main|12||8|5\nSBI|MG|13||9|7\n");
+    EXPECT_EQ(window("frmWealthMain").statusBar()->findChild<QLabel*>()->text(),
+              "2 values did not fit their cells. The first is \"30/02/2014\" in row 1, Date of Deposit.");
+}
+
 class AssetsGridTest : public WindowTest {
 protected:
     GridView& view() { return widget<GridView>("frmImmovable", "sprImmovable"); }
