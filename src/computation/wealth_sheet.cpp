@@ -73,8 +73,10 @@ void frmWealthMain::design() {
          {&txtAssesseeName, &txtAssetsSec2ea, &txtDeemedAssets, &txtTotalAssets, &txtExemptedAssets,
           &txtAssetsChargeableToWTax, &txtNetWealth, &txtNetWealthRoundedOff, &txtExemptedAmount,
           &txtTaxableWealth, &txtWealthTaxLiability, &txtTaxIntPayable, &txtPrepaidTax,
-          &txtBalanceTaxIntPayable, &txtTaxRefund})
+          &txtBalanceTaxIntPayable, &txtTaxRefund}) {
         computed->set_locked(true);
+        computed->set_backcolor(widgets::grey_rgb);
+    }
     // The amount of an earlier year; the start puts the year's own in its place, which runs the chain.
     txtExemptedAmount.set_text("1500000");
 

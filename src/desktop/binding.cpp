@@ -284,8 +284,9 @@ void Binding::show_state() {
     if (!is_page && widget_->isHidden() != hidden) widget_->setHidden(hidden);
     if (label_ && label_->isHidden() != hidden) label_->setHidden(hidden);
     if (widget_->toolTip() != to_qt(control_.tooltip())) widget_->setToolTip(to_qt(control_.tooltip()));
-    if (ground_ == control_.backcolor() && ink_ == control_.forecolor()) return;
-    ground_ = control_.backcolor();
+    const widgets::Color ground = own_ground();
+    if (ground_ == ground && ink_ == control_.forecolor()) return;
+    ground_ = ground;
     ink_ = control_.forecolor();
     const QPalette palette = QApplication::palette();
     QString sheet;

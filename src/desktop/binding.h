@@ -44,6 +44,8 @@ protected:
     virtual void show_items() {}
     virtual void show_state();
     virtual void show_structure() {}
+    // The ground that the widget is painted with by itself; none leaves it to the style sheet.
+    [[nodiscard]] virtual widgets::Color own_ground() const { return control_.backcolor(); }
 
 private:
     widgets::Control& control_;
