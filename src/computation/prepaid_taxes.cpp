@@ -103,9 +103,7 @@ void frmWealthMain::SavePrepaidTaxesOnClose() {
 }
 
 void frmWealthMain::save_prepaid(const std::string& deletion, RowSetAtEnd at_end) {
-    if (!prepaid_read_ &&
-        !saves_over_unread("frmWealthMain - SavePrepaidTaxes", {{"PrePaidTaxes", row_key()}}))
-        return;
+    if (!prepaid_read_ && !goes_on(ask_over_unread(session_, {{"PrePaidTaxes", row_key()}}))) return;
     session_.SqlText = deletion;
     session_.TaxDb.execute(session_.SqlText);
     session_.SqlText = "Select * From PrePaidTaxes where " + row_key();

@@ -116,8 +116,9 @@ void frmWealthMain::LoadWealthTaxComputation() {
 }
 
 void frmWealthMain::SaveWealthTaxComputation() {
-    if (!sheet_read_ && !saves_over_unread("frmWealthMain - SaveWealthTaxComputation",
-                                           {{"NetWealthComputation", row_key()}, {"Enclosure", row_key()}}))
+    if (!sheet_read_ &&
+        !goes_on(ask_over_unread(session_, "frmWealthMain - SaveWealthTaxComputation",
+                                 {{"NetWealthComputation", row_key()}, {"Enclosure", row_key()}})))
         return;
     session::procedure(session_, "frmWealthMain - SaveWealthTaxComputation", [this](const auto& attempt) {
         session_.SqlText = "Select * from NetWealthComputation WHERE " + row_key();
@@ -138,9 +139,7 @@ void frmWealthMain::SaveWealthTaxComputation() {
     });
 }
 
-bool frmWealthMain::saves_over_unread(std::string_view procedure,
-                                      const std::vector<session::UnreadTable>& tables) {
-    const session::OverUnread choice = ask_over_unread(session_, procedure, tables);
+bool frmWealthMain::goes_on(session::OverUnread choice) {
     stays_ = stays_ || choice == session::OverUnread::stay;
     return choice == session::OverUnread::save;
 }

@@ -142,8 +142,8 @@ private:
     void save_enclosures(const session::Attempt& attempt);
     void put_prepaid_row(const session::RowSet& rows, int row, const PrepaidLoading& how);
     template <class Step> void load_prepaid(const PrepaidLoading& how, const Step& step);
-    [[nodiscard]] bool saves_over_unread(std::string_view procedure,
-                                         const std::vector<session::UnreadTable>& tables);
+    // True where a save goes on; a dismissed question keeps the sheet open.
+    [[nodiscard]] bool goes_on(session::OverUnread choice);
     void save_prepaid(const std::string& deletion, RowSetAtEnd at_end);
 
     void sheet_of_active_grid(session::SheetUse use);

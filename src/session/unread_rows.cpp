@@ -25,19 +25,20 @@ bool has_rows(Session& session, const UnreadTable& table) {
     return true;
 }
 
-OverUnread ask(Session& session, const std::vector<UnreadTable>& tables) {
+} // namespace
+
+OverUnread ask_over_unread(Session& session, const std::vector<UnreadTable>& tables) {
     std::string names;
     for (const UnreadTable& each : tables)
         if (has_rows(session, each)) names += (names.empty() ? "" : ", ") + std::string(each.name);
     return names.empty() ? OverUnread::save : ask_over_unread(session, "The stored rows of " + names);
 }
 
-} // namespace
-
 OverUnread ask_over_unread(Session& session, std::string_view name, const std::vector<UnreadTable>& tables) {
     OverUnread choice = OverUnread::leave; // where the store can't tell, and its report was dismissed
-    procedure(session, name,
-              [&](const Attempt& attempt) { choice = attempt([&] { return ask(session, tables); }); });
+    procedure(session, name, [&](const Attempt& attempt) {
+        choice = attempt([&] { return ask_over_unread(session, tables); });
+    });
     return choice;
 }
 

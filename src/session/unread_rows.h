@@ -24,8 +24,10 @@ enum class OverUnread {
 };
 
 // Asks where one of these tables has rows of its key. A table that can't be read, or can't take a row for
-// want of a column, is reported under the save's name before anything is deleted; a report that is
-// dismissed leaves.
+// want of a column, throws as the save would, before anything is deleted.
+OverUnread ask_over_unread(Session& session, const std::vector<UnreadTable>& tables);
+
+// Asks so, and reports what was thrown under the save's name; a report that is dismissed leaves.
 OverUnread ask_over_unread(Session& session, std::string_view procedure,
                            const std::vector<UnreadTable>& tables);
 

@@ -101,6 +101,10 @@ TEST_F(PrepaidTest, ThePanelLoadsWhenItOpensAndStoresWhenItCloses) {
     fresh.run(Store::tax, "DROP TABLE PrePaidTaxes");
     sheet().cmdSATaxPayable.click();
     EXPECT_EQ(fresh.logged(), "frmWealthMain - cmdSATaxPayable_Click");
+    EXPECT_TRUE(start());
+    sheet().cmdSave1.click();
+    EXPECT_EQ(fresh.logged(), "frmWealthMain - cmdSATaxPayable_Click|frmWealthTaxMain - LoadPrepaidTaxes|"
+                              "frmWealthMain - cmdSave1_Click");
 }
 
 TEST_F(PrepaidTest, EscapeClearsTheCellBeforeItAsks) {
