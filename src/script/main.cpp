@@ -57,7 +57,9 @@ std::optional<std::string> read_command_line(std::vector<std::string> words, Com
     }
     if (at == words.size()) return "no script named";
     result.script.assign(words.begin() + static_cast<std::ptrdiff_t>(at), words.end());
-    if (!std::filesystem::is_regular_file(result.script.front()))
+    std::error_code unknown;
+    if (const auto kind = std::filesystem::status(result.script.front(), unknown).type();
+        kind == std::filesystem::file_type::directory || kind == std::filesystem::file_type::not_found)
         return "there is no script " + result.script.front();
     return std::nullopt;
 }

@@ -61,6 +61,8 @@ TEST_F(ScriptTest, EndsWithTheStatusOfItsKind) {
     const std::string fine_call = fine + " a 'b c'";
     const Case cases[] = {
         {"arguments reach the script", fine_call.c_str(), 0, ""},
+        {"a script that comes through a pipe", "/dev/stdin < /dev/null", 0, ""},
+        {"a folder", "/", 2, "there is no script /"},
         {"no script", "", 2, "no script named"},
         {"an unknown option", "--dat x y.lua", 2, "unknown option --dat"},
         {"an option without its value", "--today", 2, "--today needs a value"},
