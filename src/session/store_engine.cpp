@@ -123,7 +123,10 @@ void OpenStore::give_gate_back() {
 
 void OpenStore::fail(int code) {
     const int number = database_ ? sqlite3_extended_errcode(database_.get()) : code;
-    const std::string text = database_ ? sqlite3_errmsg(database_.get()) : sqlite3_errstr(code);
+    std::string text = database_ ? sqlite3_errmsg(database_.get()) : sqlite3_errstr(code);
+    for (const auto& [alias, detaching] : attached_) // which no statement of the screens has named
+        if (const std::size_t at = text.find(alias + '.'); at != std::string::npos)
+            text.erase(at, alias.size() + 1);
     Failure failure(number, text);
     switch (code & 0xFF) {
     case SQLITE_BUSY:
@@ -200,7 +203,7 @@ void OpenStore::attach(const std::vector<AttachedStore>& others) {
         check_file(file);
         const PreparedStatement statement = prepare("ATTACH ? AS " + as_name(each.alias));
         bind_value(*this, statement.get(), 1, file);
-        detaching_.push_back("DETACH " + as_name(each.alias));
+        attached_.push_back({each.alias, "DETACH " + as_name(each.alias)});
         step(statement.get());
     }
 }
@@ -208,9 +211,9 @@ void OpenStore::attach(const std::vector<AttachedStore>& others) {
 void OpenStore::detach_all() noexcept {
     if (in_transaction()) return;
     // A file that can't be let go now goes with the connection.
-    for (const std::string& each : detaching_)
-        sqlite3_exec(database_.get(), each.c_str(), nullptr, nullptr, nullptr);
-    detaching_.clear();
+    for (const Attached& each : attached_)
+        sqlite3_exec(database_.get(), each.detaching.c_str(), nullptr, nullptr, nullptr);
+    attached_.clear();
 }
 
 bool OpenStore::in_transaction() const {
@@ -218,7 +221,7 @@ bool OpenStore::in_transaction() const {
 }
 
 bool OpenStore::is_at_rest() const {
-    return !in_transaction() && !begun_ && !lost_ && !given_up_ && written_.empty() && detaching_.empty() &&
+    return !in_transaction() && !begun_ && !lost_ && !given_up_ && written_.empty() && attached_.empty() &&
            sqlite3_next_stmt(database_.get(), nullptr) == nullptr;
 }
 

@@ -113,7 +113,11 @@ private:
     StoreGate gate_;
     std::chrono::milliseconds longest_wait_;
     std::chrono::steady_clock::time_point busy_until_;
-    std::vector<std::string> detaching_; // a statement for each file attached
+    struct Attached {
+        std::string alias;
+        std::string detaching; // the statement, ready for a time without memory
+    };
+    std::vector<Attached> attached_;
     bool gate_borrowed_ = false;
     bool begun_ = false;
     std::vector<Written> written_; // in the transaction in hand

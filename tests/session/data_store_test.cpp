@@ -220,6 +220,7 @@ TEST_F(DataStoreTest, WhatCannotBeDoneSaysWhy) {
         std::function<void()> act;
         const char* failure;
     };
+    const std::string elsewhere = "SELECT x FROM [" + folder.path() + "/Assessee.mdb].Nobody";
     const Case cases[] = {
         {"a row that is gone", [&] { rows.update(); }, "3167 Record is deleted."},
         {"closed rows", [&] { rows.close(), rows.add_new(); },
@@ -232,6 +233,7 @@ TEST_F(DataStoreTest, WhatCannotBeDoneSaysWhy) {
         {"rows of no table", [&] { open("SELECT 1 UNION SELECT 2"); },
          "3027 Cannot update. The rows are not those of one table."},
         {"an unknown table", [&] { open("Enclosures"); }, "1 no such table: Enclosures"},
+        {"one of another file", [&] { open(elsewhere.c_str()); }, "1 no such table: Nobody"},
         {"an unknown column read", [&] { open("SELECT Nope FROM Enclosure"); }, "1 no such column: Nope"},
         {"and one written", [&] { run("INSERT INTO Enclosure (Descripton) VALUES ('x')"); },
          "1 table Enclosure has no column named Descripton"},
