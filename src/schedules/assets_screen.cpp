@@ -104,13 +104,19 @@ void frmImmovable::Form_Load() {
 }
 
 void frmImmovable::LoadAssetComputation() {
-    read_ = procedure(session_, "frmImmovable - LoadAssetComputation", [this](const Attempt& attempt) {
-        immovable.load(attempt);
-        urban_land.load(attempt);
-        movable.load(attempt);
-        firm.load(attempt);
+    tables_read_ = 0;
+    procedure(session_, "frmImmovable - LoadAssetComputation", [this](const Attempt& attempt) {
+        const auto load = [&](auto& schedule) {
+            schedule.load(attempt);
+            ++tables_read_;
+        };
+        load(immovable);
+        load(urban_land);
+        load(movable);
+        load(firm);
         load_asset_details(attempt);
-        jewellery.load(attempt);
+        ++tables_read_;
+        load(jewellery);
     });
 }
 
@@ -147,13 +153,13 @@ void frmImmovable::save_asset_details(const Attempt& attempt) {
 }
 
 void frmImmovable::cmdOK_Click() {
-    if (!read_) {
-        std::vector<session::UnreadTable> tables;
-        for (const std::string_view each :
-             {"Immovable Property Details", "Urban Land", "Movable Property Details", "InterestInFirmOrAOP",
-              "Asset Details"})
-            tables.push_back({each, asset_key(session_)});
-        tables.push_back({"jewellery", year_key(session_)});
+    const std::string key = asset_key(session_);
+    // In the order in which they load; the first that failed has kept the rest from it.
+    std::vector<session::UnreadTable> tables{
+        {"Immovable Property Details", key}, {"Urban Land", key},    {"Movable Property Details", key},
+        {"InterestInFirmOrAOP", key},        {"Asset Details", key}, {"jewellery", year_key(session_)}};
+    tables.erase(tables.begin(), tables.begin() + tables_read_);
+    if (!tables.empty()) {
         const auto leave_unsaved = [this] {
             session_.screens.show(in_main_mode() ? "frmWealthMain" : asset_parent(session_).screen);
             leave();

@@ -103,7 +103,7 @@ private:
 
     const widgets::Rule* total_ = nullptr;
     bool leaving_ = false;
-    bool read_ = false;       // all stored rows are on the screen
+    int tables_read_ = 0;     // whose rows are all on the screen
     int property_count_ = 0;  // applied last
     int jewellery_count_ = 0; //
     int jewellery_current_column_ = 1;

@@ -213,6 +213,10 @@ TEST_F(SpoiledFolderTest, RowsThatAScreenCannotReadAreToldAndNeverSavedOver) {
             EXPECT_EQ(told(sample), here(fault.on_opening, place));
             sample.person.told.clear();
             save_of(place).save(sample);
+            if (fault.on_saving == asks) { // and names no table that was read before
+                EXPECT_EQ(told(sample).find(std::string("rows of ") + place.table),
+                          std::string("The stored ").size());
+            }
             EXPECT_EQ(std::regex_replace(replaced(told(sample), " (nothing of this save is stored)", ""),
                                          std::regex("rows of .* were"), "rows of ... were"),
                       here(fault.on_saving, place));
