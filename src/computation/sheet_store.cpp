@@ -110,15 +110,21 @@ void frmWealthMain::LoadWealthTaxComputation() {
                 attempt([&] {
                     std::visit([&](auto field) { show(this->*field, row[column.name]); }, column.field);
                 });
+        sheet_read_ = true;
         load_enclosures(attempt);
+        enclosures_read_ = true;
     };
-    sheet_read_ = session::procedure(session_, "frmWealthTaxMain - LoadWealthTaxComputation", load);
+    sheet_read_ = false;
+    enclosures_read_ = false;
+    session::procedure(session_, "frmWealthTaxMain - LoadWealthTaxComputation", load);
 }
 
 void frmWealthMain::SaveWealthTaxComputation() {
-    if (!sheet_read_ &&
-        !goes_on(ask_over_unread(session_, "frmWealthMain - SaveWealthTaxComputation",
-                                 {{"NetWealthComputation", row_key()}, {"Enclosure", row_key()}})))
+    std::vector<session::UnreadTable> unread;
+    if (!sheet_read_) unread.push_back({"NetWealthComputation", row_key()});
+    if (!enclosures_read_) unread.push_back({"Enclosure", row_key()});
+    if (!unread.empty() &&
+        !goes_on(ask_over_unread(session_, "frmWealthMain - SaveWealthTaxComputation", unread)))
         return;
     session::procedure(session_, "frmWealthMain - SaveWealthTaxComputation", [this](const auto& attempt) {
         session_.SqlText = "Select * from NetWealthComputation WHERE " + row_key();

@@ -161,9 +161,10 @@ private:
     const widgets::Rule* interest_rounded_ = nullptr;
     const widgets::Rule* prepaid_total_ = nullptr;
 
-    bool sheet_read_ = false;   // all that is stored of it is on the screen
-    bool prepaid_read_ = false; //
-    bool stays_ = false;        // a question of the save in hand was dismissed: no exit
+    bool sheet_read_ = false; // all that is stored of it is on the screen
+    bool enclosures_read_ = false;
+    bool prepaid_read_ = false;
+    bool stays_ = false; // a question of the save in hand was dismissed: no exit
 
     int InterestSlideDirection = 0; // 1 opening, 0 closing
     std::uint8_t InterestSlideStep = 0;

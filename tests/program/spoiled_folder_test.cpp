@@ -274,7 +274,7 @@ TEST_F(SpoiledFolderTest, AnEnclosureChallanOrReturnThatWasNotReadWholeIsNotSave
     const std::string would_be_lost =
         " were not read and would be lost by saving. Replace them by what is on the screen ?\n";
     EXPECT_EQ(told(sample), "Error: 13 table \"Enclosure\", column \"Description\": not a text: \"AB\"\n"
-                            "The stored rows of NetWealthComputation, Enclosure" +
+                            "The stored rows of Enclosure" +
                                 would_be_lost +
                                 "Error: 13 table \"Challan\", column \"DrawnOnBank\": not a text: \"AB\"\n"
                                 "Overwrite the changes to existing challan of the same date ?\n"
