@@ -45,7 +45,10 @@ void eReturn::write_line(std::string_view line) {
 
 void eReturn::indented(std::string_view line) {
     if (session_.XmlIndent < 0)
-        throw Failure(error_number::invalid_call, "Invalid procedure call or argument");
+        throw Failure(
+            error_number::invalid_call,
+            "Invalid procedure call or argument: more elements end than have begun. Rows of Schedule "
+            "OPR without a Property Head do that; choose one in each row, or empty the row.");
     text_.append(static_cast<std::size_t>(session_.XmlIndent), ' ');
     write_line(line);
 }

@@ -199,7 +199,10 @@ TEST_F(ReturnWritingTest, AFailedWriteIsReportedAndLeavesTheOldFile) {
         form().sprScheduleOPR.type(opr_column::description, row, "Farm");
     desk_.queue_file(folder_.path() + "/out.xml");
     form().btnGenerate.click();
-    EXPECT_EQ(message(), "Levora Wealth Tax - Error: 5 Invalid procedure call or argument\n");
+    EXPECT_EQ(message(),
+              "Levora Wealth Tax - Error: 5 Invalid procedure call or argument: more elements end than "
+              "have begun. Rows of Schedule OPR without a Property Head do that; choose one in "
+              "each row, or empty the row.\n");
     form().sprScheduleOPR.clear_data();
     EXPECT_NE(generated().find("\n<FORMP2:Form "), std::string::npos);
 }
