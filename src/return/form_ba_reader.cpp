@@ -85,8 +85,6 @@ void read_address(frmFormBA& form, const Section& address) {
         const int code = to_long(val(address.get("FormCommon:State", "0")));
         form.cboState.set_index(code == 99 ? static_cast<int>(form.cboState.items().size()) - 1 : code - 1);
     });
-    // Wanted: whatever the file says, it is India.
-    form.cboCountry.set_text("INDIA");
     address.text("FormCommon:Pincode", form.mskPin);
 }
 
@@ -158,6 +156,8 @@ void ReadFormBAXml(frmFormBA& form, const XmlDocument& document) {
     const Section general(*form_ba);
     read_person(form, general);
     if (const auto address = form_ba->child("FBAMain:Address")) read_address(form, Section(*address));
+    // Wanted: whatever the file says, it is India.
+    form.cboCountry.set_text("INDIA");
     read_filing_status(form, general);
     read_statement(form, general);
     if (const auto bank = form_ba->child("FBAMain:AssesseeBankDetail")) read_bank(form, Section(*bank));

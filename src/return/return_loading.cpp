@@ -24,9 +24,13 @@ void frmFormBA::btnImport_Click() {
 
 void frmFormBA::ClearFormBA() {
     // Wanted: by the name. TotalValMovableProp is a text field too and stays.
-    for (widgets::Control* each : controls())
-        if (equal_without_case(std::string_view(each->name()).substr(0, 3), "TXT"))
-            if (auto* const field = widgets::as_if<widgets::TextField>(each)) field->set_text("");
+    const auto empty_fields = [this] {
+        for (widgets::Control* each : controls())
+            if (equal_without_case(std::string_view(each->name()).substr(0, 3), "TXT"))
+                if (auto* const field = widgets::as_if<widgets::TextField>(each)) field->set_text("");
+    };
+    empty_fields();
+    empty_fields(); // figures that were worked out again from a later field, once that was empty
     for (widgets::Grid* grid :
          {&sprScheduleBTP, &sprImmovableProperty, &sprMovableProperty, &sprJewellery, &sprPreciousStone,
           &sprAssetInterest, &sprAssetsClaimedExempt, &sprScheduleOPR})
@@ -38,7 +42,6 @@ bool frmFormBA::LoadXmlFile(const std::string& path) {
     const std::optional<XmlDocument> document = XmlDocument::load(path);
     if (!document) {
         widgets::MessageBox box;
-        box.title = "Levora Wealth Tax";
         box.text = "Blank or Invalid XML file, could not load the file";
         box.icon = widgets::Icon::information;
         session_.desk.show_message(box);

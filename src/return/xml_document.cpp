@@ -24,15 +24,16 @@ std::string_view view(const xmlChar* text) {
 // A name as written, taken apart once for a search through many elements.
 class WrittenName {
 public:
-    explicit WrittenName(std::string_view name) {
+    explicit WrittenName(std::string_view name) : whole_(name) {
         const std::size_t colon = name.find(':');
         if (colon != std::string_view::npos) prefix_ = name.substr(0, colon);
         local_ = colon == std::string_view::npos ? name : name.substr(colon + 1);
     }
 
     [[nodiscard]] bool fits(const xmlNode* node) const {
-        return node->type == XML_ELEMENT_NODE && equal(node->name, local_) &&
-               equal(node->ns ? node->ns->prefix : nullptr, prefix_);
+        if (node->type != XML_ELEMENT_NODE) return false;
+        if (!node->ns) return equal(node->name, whole_); // a prefix that is not declared is part of the name
+        return equal(node->name, local_) && equal(node->ns->prefix, prefix_);
     }
 
 private:
@@ -42,6 +43,7 @@ private:
         return std::strncmp(text, right.data(), right.size()) == 0 && text[right.size()] == '\0';
     }
 
+    std::string_view whole_;
     std::string_view prefix_;
     std::string_view local_;
 };
@@ -101,7 +103,7 @@ std::optional<XmlDocument> XmlDocument::parse(std::string_view bytes) {
     result.document_.reset(xmlCtxtReadMemory(context.get(), bytes.data(), static_cast<int>(bytes.size()),
                                              nullptr, utf16 ? nullptr : "UTF-8", options));
     if (context->errNo == XML_ERR_NO_MEMORY) throw std::bad_alloc();
-    if (!result.document_ || !context->wellFormed || !context->nsWellFormed) return std::nullopt;
+    if (!result.document_ || !context->wellFormed) return std::nullopt;
     if (result.document_->intSubset || result.document_->extSubset) return std::nullopt;
     const xmlNode* const root = xmlDocGetRootElement(result.document_.get());
     if (!root || too_deep(root)) return std::nullopt;
